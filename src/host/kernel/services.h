@@ -1,0 +1,69 @@
+// The services of the application, and the one place where a host registers them.
+#pragma once
+
+#include "host/db/database.h"
+#include "host/export.h"
+#include "host/kernel/conversion_observer.h"
+
+#include <cstdint>
+
+// The drawing of a document.
+class KVHOST_API CZtDatabase : public OdDbDatabase
+{
+    ODRX_DECLARE_MEMBERS(CZtDatabase)
+};
+
+class KVHOST_API CZtDocument
+{
+public:
+    virtual ~CZtDocument();
+
+    // The document's drawing; never null.
+    [[nodiscard]] virtual CZtDatabase* GetZtDatabase() = 0;
+};
+
+// The settings of the application, each named after what it controls.
+class KVHOST_API CZtSystemSettings
+{
+public:
+    virtual ~CZtSystemSettings();
+
+    // The language of macros: 0 C++ API, 1 C#, 2 JavaScript, 3 VB.NET, 4 C++ COM, 5 VBA. The host sets it to the
+    // language asked for before it calls ConvertJournal.
+    [[nodiscard]] virtual std::int16_t MacroLanguage() const = 0;
+};
+
+class KVHOST_API CZtSystemServices
+{
+public:
+    virtual ~CZtSystemServices();
+
+    [[nodiscard]] virtual const CZtSystemSettings& Settings() const = 0;
+};
+
+// What a host offers to the module. It registers one object of this kind before it loads the module.
+class KVHOST_API CZtHost
+{
+public:
+    virtual ~CZtHost();
+
+    [[nodiscard]] virtual CZtSystemServices& SystemServices() = 0;
+
+    // The document at hand; null when there is none.
+    [[nodiscard]] virtual CZtDocument* ActiveDocument() = 0;
+
+    // Who is told about the conversion under way; null for nobody.
+    [[nodiscard]] virtual ConversionObserver* Observer() { return nullptr; }
+};
+
+// Makes the host known; it stays the caller's and must outlive its registration. Null takes it back.
+KVHOST_API void RegisterHost(CZtHost* host) noexcept;
+
+// The services of the registered host. A host must be registered.
+[[nodiscard]] KVHOST_API CZtSystemServices* GetZtSystemServices();
+
+// The document at hand; null when there is none or no host is registered.
+[[nodiscard]] KVHOST_API CZtDocument* ACTIVE_DOCUMENT();
+
+// Who is told about the conversion under way; null for nobody.
+[[nodiscard]] KVHOST_API ConversionObserver* CurrentObserver();

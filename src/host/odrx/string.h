@@ -1,0 +1,6 @@
+// The text of the drawing library.
+#pragma once
+
+#include <QtCore/QString>
+
+using OdString = QString;
