@@ -18,7 +18,7 @@ struct TypeRow
     const char* constant;
 };
 
-// "AcDbMText" has the type constant of a simple note: the API has none for notes.
+// "AcDbMText" is a Note with the type constant of a simple note: the API's own choice.
 constexpr TypeRow typeRows[] = {
     {"AcDbLine", "Line", "kvLineType"},
     {"AcDbCircle", "Circle", "kvCircleType"},

@@ -2,6 +2,8 @@
 // Numbers are those of the host, so that many tables read downwards from the highest one.
 #include "backends/text/enumeration_tables.h"
 
+#include <iterator>
+
 namespace kv
 {
 namespace
@@ -337,6 +339,7 @@ constexpr EnumTable tables[] = {
     {"kvTableCellType_e", "kvTableCellType_Title", tableCellType},
     {"kvBlockInsertUnits_e", "kvBlockInsertUnits_Unitless", blockInsertUnits, "CZtUtils"},
 };
+static_assert(std::size(tables) == static_cast<std::size_t>(EnumKind::BlockInsertUnits) + 1);
 } // namespace
 
 std::span<const EnumTable> EnumTables()
