@@ -8,6 +8,7 @@
 #include <QTranslator>
 
 #include <map>
+#include <memory>
 #include <set>
 
 namespace
