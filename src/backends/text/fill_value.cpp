@@ -2,6 +2,7 @@
 #include "backends/text/fill_value.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <cstring>
 
 namespace kv::detail
