@@ -1,12 +1,15 @@
 // Fills templates: in a single pass where that gives the text of the chain of QString::arg calls, else by the chain.
 #include "backends/text/fill.h"
 
+#include <algorithm>
+#include <array>
 #include <cstdint>
 #include <cstring>
 #include <limits>
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace kv

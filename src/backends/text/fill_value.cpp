@@ -2,6 +2,7 @@
 #include "backends/text/fill_value.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <cstring>
 
 namespace kv::detail
@@ -20,12 +21,12 @@ void FillValue::Keep(Kind kind, const QString& text)
     length_ = text.size();
     if (length_ <= quickLength)
     {
-        std::memcpy(room_, text.utf16(), static_cast<std::size_t>(length_) * sizeof(char16_t));
+        std::memcpy(room_, text.constData(), static_cast<std::size_t>(length_) * sizeof(char16_t));
         data_ = room_;
         return;
     }
     kept_ = text;
-    data_ = reinterpret_cast<const char16_t*>(kept_.utf16());
+    data_ = reinterpret_cast<const char16_t*>(kept_.constData());
 }
 
 void FillValue::SetInteger(qlonglong value)
@@ -94,6 +95,15 @@ void FillValue::Set(const char* value)
     const std::size_t length = value ? std::strlen(value) : 0;
     if (!WidenAscii(value, length))
         Keep(Kind::Text, QString::fromUtf8(value));
+}
+
+bool FillValue::HoldsPercent() const
+{
+    if (kind_ != Kind::Text)
+        return false;
+    if (length_ > quickLength)
+        return Text().contains(QLatin1Char('%'));
+    return std::find(data_, data_ + length_, u'%') != data_ + length_; // quicker than a call for short texts
 }
 
 QString FillValue::GivenTo(const QString& text) const

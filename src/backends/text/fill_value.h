@@ -106,7 +106,7 @@ public:
     [[nodiscard]] int Length() const { return length_; }
 
     /// Whether the text may hold a marker, or a part of one. Looks through the text.
-    [[nodiscard]] bool HoldsPercent() const { return kind_ == Kind::Text && Text().contains(QLatin1Char('%')); }
+    [[nodiscard]] bool HoldsPercent() const;
 
     /// `text.arg(value)`, by the overload of the value's type; they differ in the marker's form "%L1".
     [[nodiscard]] QString GivenTo(const QString& text) const;

@@ -6,6 +6,7 @@
 #include <bit>
 #include <cmath>
 #include <cstdint>
+#include <cstdlib>
 #include <cstring>
 
 namespace kv
@@ -63,17 +64,17 @@ void PutDigits(char16_t* out, std::uint32_t value)
 
 char16_t* PutUnsigned(char16_t* out, std::uint64_t value)
 {
-    std::array<char16_t, 24> digits;
-    char16_t* const end = digits.data() + digits.size();
+    // The decimal logarithm from the binary one, or one more; a zero has one digit too.
+    const int guess = std::bit_width(value | 1) * 1233 >> 12;
+    char16_t* const end = out + guess + (value >= powersOfTen[guess] || value == 0 ? 1 : 0);
     char16_t* at = end;
     for (; value >= 100; value /= 100)
         std::memcpy(at -= 2, &digitPairs[value % 100 * 2], 2 * sizeof(char16_t));
     if (value >= 10)
-        std::memcpy(at -= 2, &digitPairs[value * 2], 2 * sizeof(char16_t));
+        std::memcpy(at - 2, &digitPairs[value * 2], 2 * sizeof(char16_t));
     else
         *--at = static_cast<char16_t>(u'0' + value);
-    std::memcpy(out, at, static_cast<std::size_t>(end - at) * sizeof(char16_t));
-    return out + (end - at);
+    return end;
 }
 
 // Six significant digits and the decimal exponent of the first.
