@@ -3,7 +3,7 @@
 #include "backends/cpp/object_cpp.h"
 #include "core/recording_start.h"
 
-CZtConverterKVAPICPP::CZtConverterKVAPICPP(std::int32_t recordingMode) : ConverterText(recordingMode)
+CZtConverterKVAPICPP::CZtConverterKVAPICPP(std::int32_t recordingMode) : TextOperations(recordingMode)
 {
     SetObjectConverter(std::make_unique<CZtConverterKVAPIObjectCPP>(this));
 }

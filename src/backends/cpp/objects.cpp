@@ -1,7 +1,7 @@
 // C++ API texts of objects in general: comments and look-ups; the logic stands in objects/object_converter.cpp.
 #include "backends/cpp/object_cpp.h"
 
-CZtConverterKVAPIObjectCPP::CZtConverterKVAPIObjectCPP(CZtConverterKVAPIImpl* converter) : ObjectText(converter) {}
+CZtConverterKVAPIObjectCPP::CZtConverterKVAPIObjectCPP(CZtConverterKVAPIImpl* converter) : TextOperations(converter) {}
 
 QString CZtConverterKVAPIObjectCPP::WriteObjectAddedComment(const QString& className)
 {

@@ -98,7 +98,7 @@ QString CZtConverterKVAPICPP::WriteAnswerKeyword(const QString& prompt, const QS
         text += Line("%1kvlocal%2.add(L\"%3\");\n", number, local.at(i));
         text += Line("%1kvglobal%2.add(L\"%3\");\n", number, global.value(i));
     }
-    text += LineEnd();
+    text += kv::LineEnd();
     text += Statement("%1kvString value%3;%2"
                       "%1kvString  ErrorMsg%3;%2"
                       "%1kvPromptResultType_e result%3;%2"
