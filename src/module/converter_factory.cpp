@@ -1,7 +1,7 @@
 // The converter of a language. Each language makes its own object logic, so that the pair always belongs together.
 #include "module/converter_factory.h"
 
-#include "backends/cpp/converter_cpp.h"
+#include "backends/cpp/converter.h"
 #include "core/macro_language.h"
 
 std::shared_ptr<CZtConverterKVAPI> CreateConverter(std::uint32_t languageIndex, std::int32_t recordingMode,

@@ -1,5 +1,5 @@
 // C++ API texts of curves and points; the logic stands in objects/curves.cpp.
-#include "backends/cpp/object_cpp.h"
+#include "backends/cpp/object.h"
 
 using kv::Fixed;
 

@@ -1,5 +1,5 @@
 // The Visual Studio project of a C++ API macro.
-#include "backends/cpp/converter_cpp.h"
+#include "backends/cpp/converter.h"
 #include "backends/text/install_paths.h"
 #include "backends/text/vcproj_writer.h"
 

@@ -1,5 +1,5 @@
 // The files of the add-in project around a C++ API macro.
-#include "backends/cpp/converter_cpp.h"
+#include "backends/cpp/converter.h"
 #include "core/macro_name.h"
 
 #include <QtCore/QDir>
