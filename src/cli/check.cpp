@@ -10,16 +10,13 @@
 
 #include <cstdio>
 
-namespace fs = std::filesystem;
-
 namespace kv::cli
 {
 
-int Check(const CheckOptions& options, const std::vector<std::string>& commandLine)
+int Check(const std::vector<std::string>& commandLine)
 {
-    (void)options;
     const HeldSignals signals;
-    const Staging staging({fs::temp_directory_path()});
+    const Staging staging({std::filesystem::temp_directory_path()});
     std::vector<std::string> arguments = commandLine;
     arguments.insert(arguments.begin() + 2, "--staged=" + staging.Folder().string());
     return signals.RunSelf(arguments);
@@ -41,9 +38,12 @@ int CheckStaged(const CheckOptions& options)
         print();
         return status;
     }
-    catch (const Failure&)
+    catch (const Failure& failure)
     {
-        print(); // what was seen until then
+        if (failure.Status() == Failed)
+        {
+            print(); // what was seen until then
+        }
         throw;
     }
 }

@@ -120,6 +120,10 @@ int Convert(const ConvertOptions& options, const std::vector<std::string>& comma
             const int status = RunJob(job, signals, commandLine, &job == &jobs.front());
             if (status != Done)
             {
+                if (status == Failed && jobs.size() > 1)
+                {
+                    std::fputs("kvmacro: no language's macro was written\n", stderr);
+                }
                 return status;
             }
         }

@@ -4,6 +4,7 @@
 #include "embedded/session.h"
 #include "host/kernel/journal_events.h"
 
+#include <algorithm>
 #include <array>
 #include <vector>
 
@@ -42,7 +43,7 @@ QString CommandName(const CZtUserCommand& command)
 {
     OdResBufPtr name;
     command.GetCommandName(name);
-    return name.isNull() ? QString() : name->getString();
+    return name.get() == nullptr ? QString() : name->getString();
 }
 
 Description Describe(const OdRxObject& event)
@@ -88,7 +89,7 @@ void ForEachEvent(const CZtJournal& journal, const Visitor& visit)
 {
     for (const OdRxObjectPtr& element : journal)
     {
-        if (element.isNull())
+        if (element.get() == nullptr)
         {
             continue;
         }

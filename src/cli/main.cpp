@@ -34,7 +34,7 @@ int Run(const ConvertOptions& options, const std::vector<std::string>& commandLi
 
 int Run(const CheckOptions& options, const std::vector<std::string>& commandLine)
 {
-    return options.stagedFolder.empty() ? Check(options, commandLine) : (EndWithParent(), CheckStaged(options));
+    return options.stagedFolder.empty() ? Check(commandLine) : (EndWithParent(), CheckStaged(options));
 }
 
 int Run(int status, const std::vector<std::string>&)

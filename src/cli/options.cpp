@@ -51,7 +51,7 @@ void AddCommonOptions(CLI::App& command, CommonOptions& options, bool withAll)
     command.add_option("JOURNAL", options.journal, "The recorded session, a .jsonl file")->required();
     command.add_option("--language", options.language, "The language of the macro")
         ->check(CLI::IsMember(LanguageWords(withAll)))
-        ->option_text("WORD:{" + CLI::detail::join(LanguageWords(withAll), "|") + "}");
+        ->option_text("WORD:{" + CLI::detail::join(LanguageWords(withAll), "|") + "}" + (withAll ? " REQUIRED" : ""));
     command
         .add_option("--mode", options.mode,
                     "Recording mode in place of the journal's: 1 converts prompts, selections"
