@@ -2,6 +2,8 @@
 #include "module/converter_factory.h"
 
 #include "backends/cpp/converter.h"
+#include "backends/vba/converter.h"
+#include "backends/vbnet/converter.h"
 #include "core/macro_language.h"
 
 std::shared_ptr<CZtConverterKVAPI> CreateConverter(std::uint32_t languageIndex, std::int32_t recordingMode,
@@ -12,6 +14,12 @@ std::shared_ptr<CZtConverterKVAPI> CreateConverter(std::uint32_t languageIndex, 
     {
     case MacroLanguage::CppApi:
         converter = std::make_shared<CZtConverterKVAPICPP>(recordingMode);
+        break;
+    case MacroLanguage::VbNet:
+        converter = std::make_shared<CZtConverterKVAPIVbNet>(recordingMode);
+        break;
+    case MacroLanguage::Vba:
+        converter = std::make_shared<CZtConverterKVAPIVba>(recordingMode);
         break;
     default:
         return nullptr;
