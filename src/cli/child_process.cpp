@@ -87,8 +87,13 @@ void HeldSignals::ThrowIfInterrupted() const
     }
 }
 
-int HeldSignals::RunSelf(const std::vector<std::string>& arguments) const
+int HeldSignals::RunSelf(const std::vector<std::string>& commandLine, const std::filesystem::path& folder,
+                         const std::vector<std::string>& more) const
 {
+    std::vector<std::string> arguments{commandLine.at(0), commandLine.at(1), "--staged=" + folder.string(),
+                                       "--staged-by=" + std::to_string(getpid())};
+    arguments.insert(arguments.end(), more.begin(), more.end());
+    arguments.insert(arguments.end(), commandLine.begin() + 2, commandLine.end());
     const pid_t child = Start(arguments, previous_);
     sigset_t awaited = interruptions_;
     sigaddset(&awaited, SIGCHLD);
@@ -112,9 +117,13 @@ int HeldSignals::RunSelf(const std::vector<std::string>& arguments) const
     return WEXITSTATUS(status);
 }
 
-void EndWithParent()
+void EndWithParent(int parent)
 {
     prctl(PR_SET_PDEATHSIG, SIGKILL);
+    if (getppid() != parent) // it was killed before the line above
+    {
+        std::_Exit(128 + SIGKILL);
+    }
 }
 
 void EndBySignal(int signal)
