@@ -3,6 +3,7 @@
 
 #include "cli/failure.h"
 
+#include <array>
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
@@ -18,6 +19,7 @@ namespace kv::cli
 namespace
 {
 
+constexpr std::array interrupting{SIGINT, SIGTERM, SIGHUP};
 constexpr const char* ownFile = "/proc/self/exe";
 
 int WaitForEnd(pid_t child)
@@ -58,7 +60,7 @@ HeldSignals::HeldSignals()
 {
     std::signal(SIGCHLD, SIG_DFL); // ignored, the end of the process could not be waited for
     sigemptyset(&interruptions_);
-    for (const int signal : {SIGINT, SIGTERM, SIGHUP})
+    for (const int signal : interrupting)
     {
         struct sigaction action = {};
         sigaction(signal, nullptr, &action);
@@ -84,6 +86,14 @@ void HeldSignals::ThrowIfInterrupted() const
     if (signal > 0)
     {
         throw Interrupted{signal};
+    }
+}
+
+void HeldSignals::Ignore() const
+{
+    for (const int signal : interrupting)
+    {
+        std::signal(signal, SIG_IGN); // discards those that wait, too
     }
 }
 

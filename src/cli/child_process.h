@@ -28,6 +28,9 @@ public:
     // Throws Interrupted when one of them has come.
     void ThrowIfInterrupted() const;
 
+    // From now on they change nothing: the work is done, and the exit status has to say so.
+    void Ignore() const;
+
     // Runs this program with its command line and more options, among them the folder in which that process is to work
     // (--staged), and waits for its end. Gives its exit status; throws Failure when it can't be started or ends by a
     // signal, Interrupted, with the process ended, when a signal comes first.

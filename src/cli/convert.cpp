@@ -130,6 +130,7 @@ int Convert(const ConvertOptions& options, const std::vector<std::string>& comma
         signals.ThrowIfInterrupted();
         MoveInPlace(moves, options.force, backups);
         parents.Keep();
+        signals.Ignore();
     }
     for (const Move& move : moves)
     {
