@@ -112,6 +112,7 @@ PropertyPtr EventReader::property(const JsonNode& node)
 CZtPropertyList EventReader::properties(const JsonNode& node)
 {
     CZtPropertyList list;
+    list.reserve(node.itemCount());
     node.forEachItem("a list of properties", [&](const JsonNode& item) { list.push_back(property(item)); });
     return list;
 }

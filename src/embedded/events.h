@@ -1,6 +1,7 @@
 // The events of a journal file.
 #pragma once
 
+#include "embedded/chunk_allocated.h"
 #include "embedded/drawing.h"
 #include "host/kernel/journal_events.h"
 
@@ -9,7 +10,7 @@
 namespace kv
 {
 // Where an event of a session stands in its file.
-class RecordedEvent
+class RecordedEvent : public ChunkAllocated
 {
 public:
     virtual ~RecordedEvent();
@@ -20,7 +21,7 @@ public:
 };
 
 // A property. Tags are rare, so that only Property with a tag has room for one.
-class Property : public CZtPropertyElement
+class Property : public CZtPropertyElement, public ChunkAllocated
 {
 public:
     Property(CZtString name, CZtString group, CZtVariant value)

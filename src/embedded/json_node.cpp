@@ -96,6 +96,12 @@ std::int32_t JsonNode::integer(std::int32_t least, std::int32_t most) const
     return static_cast<std::int32_t>(value);
 }
 
+std::size_t JsonNode::itemCount() const
+{
+    simdjson::dom::array items;
+    return element_.get(items) == simdjson::SUCCESS ? items.size() : 0;
+}
+
 JsonNode JsonNode::onlyMember(const char* expected) const
 {
     const simdjson::dom::object members = object(expected);

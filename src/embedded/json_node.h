@@ -68,6 +68,9 @@ public:
     [[nodiscard]] bool flag() const;
     [[nodiscard]] std::int32_t integer(std::int32_t least = INT32_MIN, std::int32_t most = INT32_MAX) const;
 
+    // The number of items of a list, to make room for them; 0 for any other value.
+    [[nodiscard]] std::size_t itemCount() const;
+
     // Calls take(item) for each item of a list, which must have the length when one is given.
     template <class Take>
     void forEachItem(const char* expected, Take take, std::optional<std::size_t> length = {}) const

@@ -35,6 +35,7 @@ template <class Read>
 [[nodiscard]] auto ReadList(const JsonNode& node, Read read)
 {
     std::vector<decltype(read(node))> items;
+    items.reserve(node.itemCount());
     node.forEachItem("a list", [&](const JsonNode& item) { items.push_back(read(item)); });
     return items;
 }
