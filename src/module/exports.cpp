@@ -3,12 +3,13 @@
 
 extern "C"
 {
-    OdRxModule* odrxCreateModuleObject(void** moduleHandle)
+    Q_DECL_EXPORT OdRxModule* odrxCreateModuleObject(void** moduleHandle)
     {
         return CreateModuleObject(moduleHandle);
     }
 
-    void odrxGetAPIVersion(std::uint32_t* major, std::uint32_t* minor, std::uint32_t* corrective, std::uint32_t* build)
+    Q_DECL_EXPORT void odrxGetAPIVersion(std::uint32_t* major, std::uint32_t* minor, std::uint32_t* corrective,
+                                         std::uint32_t* build)
     {
         *major = 3;
         *minor = 9;
