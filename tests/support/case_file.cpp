@@ -1,5 +1,5 @@
 // Reading case files.
-#include "cases/case_file.h"
+#include "support/case_file.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QStringList>
