@@ -3,6 +3,7 @@
 
 #include "backends/cpp/counters.h"
 #include "backends/javascript/counters.h"
+#include "backends/csharp/counters.h"
 #include "core/recording_start.h"
 
 void ResetProcessState()
@@ -10,4 +11,5 @@ void ResetProcessState()
     RecordingStart::Current() = {};
     CppCounters::OfProcess() = {};
     JavaScriptCounters::OfProcess() = {};
+    CSharpCounters::OfProcess() = {};
 }
