@@ -40,6 +40,10 @@ std::map<QString, QByteArray> Sections(const QString& path)
         {
             section = &sections[QString::fromUtf8(line.mid(1, line.size() - 2))];
         }
+        else if (section != nullptr && line == "\\ No newline at end of file")
+        {
+            section->chop(1);
+        }
         else if (section != nullptr)
         {
             *section += line + '\n';

@@ -8,6 +8,8 @@
 //   [cpp]               the macro text without its frame: every character up to the next heading counts
 //   [cpp whole]         the whole macro file, without its byte order mark
 //
+// A section whose text has no line end is closed by the line "\ No newline at end of file".
+//
 // Languages are cpp, csharp, javascript, vbnet, cppcom and vba. The macro's name is "macro".
 #pragma once
 
