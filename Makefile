@@ -1,0 +1,52 @@
+# The commands of the project; each installs what it lacks (tools/setup) and builds under build/.
+# Where the packages are there already or come from elsewhere: make SETUP=true ...
+SETUP ?= tools/setup
+JOBS ?= $(shell nproc)
+
+define compile
+@cmake --preset $(1) >/dev/null
+@cmake --build --preset $(1)
+endef
+
+export CMAKE_BUILD_PARALLEL_LEVEL = $(JOBS)
+export CTEST_PARALLEL_LEVEL = $(JOBS)
+
+MAKEFLAGS += --no-print-directory
+.DEFAULT_GOAL = help
+.PHONY: help demo build test bench format lint sanitize clean
+
+help: ## list the commands
+	@sed -n 's/^\([a-z]*\):.* ## /  make \1\t/p' Makefile | expand -t 18
+
+demo: build ## convert the example journal into every language, under out/demo
+	@tools/demo
+
+build: ## build the program: build/release/bin/kvmacro
+	@$(SETUP) build
+	$(call compile,release)
+
+test: ## build and run every test
+	@$(SETUP) test
+	$(call compile,test)
+	@ctest --preset test
+
+sanitize: ## run the same tests with the address and undefined-behaviour sanitizers
+	@$(SETUP) test
+	$(call compile,sanitize)
+	@ctest --preset sanitize
+
+bench: ## build and run the benchmarks
+	@$(SETUP) bench
+	$(call compile,bench)
+	@for program in build/release/bin/*_bench; do echo "== $${program##*/}" && $$program || exit; done
+
+format: ## lay out the sources as clang-format says
+	@$(SETUP) lint
+	@tools/format -i
+
+lint: ## check layout, code (clang-tidy), scripts, the Windows files, stray paths
+	@$(SETUP) lint
+	@tools/lint
+
+clean: ## remove what was built and converted
+	rm -rf build out

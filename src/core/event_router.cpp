@@ -1,0 +1,98 @@
+// The one router of events and of custom actions.
+#include "core/converter_impl.h"
+#include "core/type_table.h"
+#include "core/variable_names.h"
+#include "objects/object_converter.h"
+
+namespace
+{
+// In this mode prompt answers, selections and all system variables are converted.
+constexpr std::int32_t RecordsEverything = 1;
+
+template <class Event>
+const Event* As(const OdRxObject* event)
+{
+    return event->queryX(Event::desc()) != nullptr ? static_cast<const Event*>(event) : nullptr;
+}
+} // namespace
+
+ResultCode CZtConverterKVAPIImpl::ConvertEvent(const OdRxObject* event, QString& text)
+{
+    if (event == nullptr)
+    {
+        return ResultNormal;
+    }
+    if (const auto* interaction = As<CZtUserInteraction>(event))
+    {
+        return recordingMode_ == RecordsEverything ? ConvertUserInteraction(*interaction, text) : ResultNormal;
+    }
+    if (const auto* added = As<CZtObjectAdded>(event))
+    {
+        return ObjectConverter().ConvertObjectAdded(*added, text);
+    }
+    if (const auto* modified = As<CZtObjectModified>(event))
+    {
+        FetchChangedLayer(*modified, text);
+        return ObjectConverter().ConvertObjectModified(*modified, text);
+    }
+    if (const auto* variable = As<CZtSysVarChanged>(event))
+    {
+        const bool isViewport = variable->GetVariableName().compareNoCase("CVPORT") == 0;
+        return recordingMode_ == RecordsEverything || isViewport ? ConvertSysVarChanged(*variable, text) : ResultNormal;
+    }
+    if (const auto* changed = As<CZtPropertyChanged>(event))
+    {
+        return ObjectConverter().ConvertPropertyChanged(*changed, text);
+    }
+    if (const auto* selection = As<CZtUserSelection>(event))
+    {
+        return recordingMode_ == RecordsEverything ? ConvertUserSelection(*selection, text) : ResultNormal;
+    }
+    if (const auto* action = As<CZtCustomAction>(event))
+    {
+        return ConvertCustomAction(*action, text);
+    }
+    return ResultError;
+}
+
+// A layer that the macro changes but did not create gets its variable at its first change.
+void CZtConverterKVAPIImpl::FetchChangedLayer(const CZtObjectModified& event, QString& text)
+{
+    const OdRxClass* objectClass = event.GetObjectClass();
+    if (objectClass == nullptr || !kv::IsSupportedClass(objectClass->name()) ||
+        objectClass->name().compare(QLatin1String("AcDbLayerTableRecord"), Qt::CaseInsensitive) != 0 ||
+        FindKnownObject(event.GetObjectHandle()) != nullptr)
+    {
+        return;
+    }
+    const ObjectPair layer = RegisterObject(event.GetObjectHandle(), objectClass);
+    QString name;
+    QString type;
+    if (GetObjectTypeNames(objectClass, name, type) == ResultNormal)
+    {
+        text += WriteGetLayer(VariableName(name, layer.number, PlainPointerMark::Kept));
+    }
+}
+
+CZtConverterKVAPIImpl::ActionHandler CZtConverterKVAPIImpl::HandlerOf(std::int32_t actionId)
+{
+    // Indexed by the number of the action.
+    static constexpr std::array<ActionHandler, 49> handlers = []
+    {
+        std::array<ActionHandler, 49> table{};
+        table[31] = &CZtConverterKVAPIImpl::ConvertOption;
+        return table;
+    }();
+    return handlers.at(static_cast<std::size_t>(actionId));
+}
+
+ResultCode CZtConverterKVAPIImpl::ConvertCustomAction(const CZtCustomAction& action, QString& text)
+{
+    const std::int32_t id = action.GetActionId();
+    if (id < 0 || id > 48)
+    {
+        return ResultError;
+    }
+    const ActionHandler handler = HandlerOf(id);
+    return handler != nullptr ? (this->*handler)(action, text) : ResultNormal;
+}

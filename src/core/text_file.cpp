@@ -1,0 +1,70 @@
+// A text file that is written as UTF-8 with line feeds.
+#include "core/text_file.h"
+
+#include "core/converter_impl.h"
+
+namespace
+{
+// Large enough that the system calls don't count, small enough to stay in the cache.
+constexpr int PieceSize = 64 * 1024;
+} // namespace
+
+TextFile::TextFile(const QString& path) : file_(path) {}
+
+bool TextFile::Open(bool byteOrderMark)
+{
+    if (!file_.open(QIODevice::WriteOnly | QIODevice::Text))
+    {
+        return false;
+    }
+    pending_.reserve(PieceSize * 2);
+    if (byteOrderMark)
+    {
+        pending_.append("\xEF\xBB\xBF");
+    }
+    return true;
+}
+
+void TextFile::Write(const QString& text)
+{
+    pending_.append(text.toUtf8());
+    if (pending_.size() >= PieceSize)
+    {
+        Flush();
+    }
+}
+
+void TextFile::Flush()
+{
+    if (!pending_.isEmpty() && file_.write(pending_) != pending_.size())
+    {
+        failed_ = true;
+    }
+    pending_.resize(0);
+}
+
+bool TextFile::Close()
+{
+    Flush();
+    // QFile keeps a buffer of its own, whose failure shows only here.
+    failed_ = !file_.flush() || failed_;
+    file_.close();
+    return !failed_;
+}
+
+void TextFile::Remove()
+{
+    file_.close();
+    file_.remove();
+}
+
+bool CZtConverterKVAPIImpl::WriteTextFile(const QString& path, const QString& text, bool byteOrderMark)
+{
+    TextFile file(path);
+    if (!file.Open(byteOrderMark))
+    {
+        return false;
+    }
+    file.Write(text);
+    return file.Close();
+}

@@ -1,0 +1,239 @@
+// The events of drawing objects, the creation pass and the property pass.
+#include "objects/object_converter.h"
+
+#include "core/type_table.h"
+#include "host/db/blocks.h"
+#include "host/db/curves.h"
+#include "host/db/dimensions.h"
+#include "host/db/text.h"
+#include "host/kernel/services.h"
+#include "objects/variant_readers.h"
+
+CZtConverterKVAPIImpl& CZtConverterKVAPIObject::Converter() const
+{
+    if (converter_ == nullptr)
+    {
+        throw OdError(eNullObjectPointer);
+    }
+    return *converter_;
+}
+
+PropertyList CZtConverterKVAPIObject::PropertiesOf(const CZtPropertyList& elements) const
+{
+    return {elements, words_, Converter().GetHostContext()};
+}
+
+ResultCode CZtConverterKVAPIObject::ConvertObjectAdded(const CZtObjectAdded& event, QString& text)
+{
+    const OdRxClass* objectClass = event.GetObjectClass();
+    if (objectClass == nullptr)
+    {
+        return ResultError;
+    }
+    if (!kv::IsSupportedClass(objectClass->name()))
+    {
+        return ResultNormal;
+    }
+    PropertyList properties = PropertiesOf(event.GetProperties());
+    PropertyList remaining = PropertiesOf(event.GetDefaultProperties());
+    QString created;
+    if (ConvertCreation(objectClass, event.GetObjectHandle(), properties, remaining, created) != ResultNormal)
+    {
+        return ResultError;
+    }
+    text += created;
+    text += WriteObjectAddedEnd();
+    return ResultNormal;
+}
+
+ResultCode CZtConverterKVAPIObject::ConvertObjectModified(const CZtObjectModified& event, QString& text)
+{
+    const OdRxClass* objectClass = event.GetObjectClass();
+    if (objectClass == nullptr)
+    {
+        return ResultError;
+    }
+    if (!kv::IsSupportedClass(objectClass->name()) || event.GetProperties().empty())
+    {
+        return ResultNormal;
+    }
+    PropertyList properties = PropertiesOf(event.GetProperties());
+    const QString comment = WriteObjectModifiedComment(objectClass->name());
+    QString changes;
+    if (ConvertModification(objectClass, event.GetObjectHandle(), properties, changes) != ResultNormal)
+    {
+        return ResultError;
+    }
+    // A modification that turns into nothing leaves no comment.
+    if (!changes.isEmpty())
+    {
+        text += comment;
+        text += changes;
+        text += WriteObjectModifiedEnd();
+    }
+    return ResultNormal;
+}
+
+ResultCode CZtConverterKVAPIObject::ConvertPropertyChanged(const CZtPropertyChanged& event, QString& text)
+{
+    if (event.GetObjectClass() == nullptr)
+    {
+        return ResultError;
+    }
+    // The event is itself the one property; it belongs to the host and is only lent to the list.
+    auto* element = const_cast<CZtPropertyChanged*>(&event);
+    PropertyList properties = PropertiesOf({CZtPropertyElementPtr(element)});
+    return ConvertProperties(event.GetObjectClass(), event.GetObjectHandle(), properties, false, text);
+}
+
+bool CZtConverterKVAPIObject::IsDimensionClass(const OdRxClass* objectClass)
+{
+    const std::array classes = {
+        OdDbAlignedDimension::desc(), OdDb2LineAngularDimension::desc(), OdDb3PointAngularDimension::desc(),
+        OdDbArcDimension::desc(),     OdDbDiametricDimension::desc(),    OdDbOrdinateDimension::desc(),
+        OdDbRadialDimension::desc(),  OdDbRadialDimensionLarge::desc(),  OdDbRotatedDimension::desc()};
+    return std::ranges::find(classes, objectClass) != classes.end();
+}
+
+ResultCode CZtConverterKVAPIObject::ConvertCreation(const OdRxClass* objectClass, OdDbHandle handle,
+                                                    PropertyList& properties, PropertyList& remaining, QString& text)
+{
+    // Exact classes; a class without a branch is left to its command.
+    static const std::unordered_map<const OdRxClass*, CreationBranch> branches = {
+        {OdDbLine::desc(), &CZtConverterKVAPIObject::CreateLine},
+        {OdDbCircle::desc(), &CZtConverterKVAPIObject::CreateCircle},
+        {OdDbPoint::desc(), &CZtConverterKVAPIObject::CreatePoint},
+        {OdDbRay::desc(), &CZtConverterKVAPIObject::CreateRay},
+        {OdDbArc::desc(), &CZtConverterKVAPIObject::CreateArc},
+        {OdDbXline::desc(), &CZtConverterKVAPIObject::CreateInfiniteLine},
+        {OdDbEllipse::desc(), &CZtConverterKVAPIObject::CreateEllipse},
+    };
+    text.clear();
+    if (Converter().FindKnownObject(handle) == nullptr)
+    {
+        return ResultNormal;
+    }
+    QString variable;
+    static_cast<void>(GetObjectByHandle(handle, objectClass, variable));
+    if (CZtDocument* document = ACTIVE_DOCUMENT(); document != nullptr && !variable.isEmpty())
+    {
+        createdObjects_.Set(document->GetZtDatabase()->getOdDbObjectId(handle), variable);
+    }
+    ConsumedProperties consumed;
+    if (const auto branch = branches.find(objectClass); branch != branches.end())
+    {
+        text = (this->*branch->second)({properties, consumed, handle, variable});
+    }
+    remaining.DropConsumed(consumed);
+    if (text.isEmpty())
+    {
+        return ResultNormal;
+    }
+    QString settings;
+    const ResultCode result = ConvertProperties(objectClass, handle, remaining, true, settings);
+    text += settings;
+    return result;
+}
+
+ResultCode CZtConverterKVAPIObject::ConvertModification(const OdRxClass* objectClass, OdDbHandle handle,
+                                                        PropertyList& properties, QString& text)
+{
+    return handle.isNull() ? ResultError : ConvertProperties(objectClass, handle, properties, false, text);
+}
+
+QString CZtConverterKVAPIObject::ConvertClassProperties(const OdRxClass* objectClass, const PropertyPass& pass)
+{
+    static const std::unordered_map<const OdRxClass*, PropertyBranch> branches = {
+        {OdDbLine::desc(), &CZtConverterKVAPIObject::ConvertLine},
+        {OdDbCircle::desc(), &CZtConverterKVAPIObject::ConvertCircle},
+        {OdDbPoint::desc(), &CZtConverterKVAPIObject::ConvertPoint},
+        {OdDbRay::desc(), &CZtConverterKVAPIObject::ConvertRay},
+        {OdDbArc::desc(), &CZtConverterKVAPIObject::ConvertArc},
+        {OdDbXline::desc(), &CZtConverterKVAPIObject::ConvertInfiniteLine},
+        {OdDbEllipse::desc(), &CZtConverterKVAPIObject::ConvertEllipse},
+    };
+    const auto branch = branches.find(objectClass);
+    return branch != branches.end() ? (this->*branch->second)(pass) : QString();
+}
+
+QString CZtConverterKVAPIObject::ConvertErased(const OdRxClass* objectClass, const PropertyPass& pass)
+{
+    const CZtVariant erased = pass.properties.TakeProperty("Erased");
+    // An object that comes back is not replayed.
+    if (pass.created || erased.IsNull() || !IsWord(words_, erased, "YES", Qt::CaseInsensitive))
+    {
+        return {};
+    }
+    // Views and layers are removed from their tables.
+    if (objectClass == OdDbViewTableRecord::desc() || objectClass == OdDbLayerTableRecord::desc())
+    {
+        return {};
+    }
+    return WriteSetBoolProperty(pass.variable, QStringLiteral("Erased"), true);
+}
+
+ResultCode CZtConverterKVAPIObject::ConvertProperties(const OdRxClass* objectClass, OdDbHandle handle,
+                                                      PropertyList& properties, bool created, QString& text)
+{
+    text.clear();
+    const OdDbObjectId ownerLeader =
+        objectClass == OdDbMText::desc() ? CZtConverterKVAPIImpl::FindAttachedLeader(handle) : OdDbObjectId();
+    const bool isLeaderNote = !created && !ownerLeader.isNull();
+
+    QString variable;
+    QString head;
+    if (isLeaderNote)
+    {
+        // The note hangs on its leader, whose variable leads to it; the look-ups themselves aren't written.
+        QString leader;
+        static_cast<void>(GetObjectByHandle(handle, objectClass, variable));
+        static_cast<void>(GetObjectByHandle(ownerLeader.getHandle(), OdDbLeader::desc(), leader));
+        head = WriteGetNoteAnnotation(leader, variable);
+    }
+    else if (Converter().FindKnownObject(handle) != nullptr)
+    {
+        static_cast<void>(GetObjectByHandle(handle, objectClass, variable));
+    }
+    else if (objectClass == OdDbBlockTableRecord::desc() && properties.Holds("Objects"))
+    {
+        static_cast<void>(GetObjectByHandle(handle, objectClass, variable));
+        head = WriteDeclareBlockDefinition(variable);
+    }
+    else if (objectClass != OdDbLayout::desc())
+    {
+        // A change to an object that the macro didn't create is dropped.
+        return ResultNormal;
+    }
+
+    const std::int32_t levelOutside = Counters().IndentLevel;
+    const QString blockBegin = Converter().WriteBlockBegin();
+    const PropertyPass pass{properties, created, variable};
+    bool noBlock = false;
+    QString common;
+    if (objectClass->isDerivedFrom(OdDbEntity::desc()))
+    {
+        common = ConvertEntityProperties(pass, noBlock);
+    }
+    QString own = ConvertClassProperties(objectClass, pass);
+    own += ConvertErased(objectClass, pass);
+
+    if (common.isEmpty() && own.isEmpty())
+    {
+        Counters().IndentLevel = levelOutside;
+        // Without changes the note's declaration would stand alone.
+        text = isLeaderNote ? QString() : head;
+        return ResultNormal;
+    }
+    text = head;
+    if (noBlock)
+    {
+        text += common;
+        text += own;
+        return ResultNormal;
+    }
+    text += blockBegin;
+    text += common;
+    text += own;
+    text += Converter().WriteBlockEnd();
+    return ResultNormal;
+}

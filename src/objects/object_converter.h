@@ -1,0 +1,122 @@
+// The logic of drawing objects: how objects added and changed become creation calls and property settings. What all
+// languages share; a language overrides the Write... operations and nothing else.
+#pragma once
+
+#include "core/converter_impl.h"
+#include "host/db/color.h"
+#include "host/ge/point2d.h"
+#include "objects/axis.h"
+#include "objects/created_objects.h"
+#include "objects/display_words.h"
+#include "objects/hyperlink.h"
+#include "objects/property_list.h"
+
+#include <array>
+#include <optional>
+
+class CZtConverterKVAPIObject
+{
+public:
+    virtual ~CZtConverterKVAPIObject() = default;
+    CZtConverterKVAPIObject(const CZtConverterKVAPIObject&) = delete;
+    CZtConverterKVAPIObject& operator=(const CZtConverterKVAPIObject&) = delete;
+
+    // The text of an event, appended to what is there (of a changed property: replacing it). Give 5100, or -5001 when
+    // the event names no class. An object or a change that has no translation gives no text and 5100.
+    [[nodiscard]] ResultCode ConvertObjectAdded(const CZtObjectAdded& event, QString& text);
+    [[nodiscard]] ResultCode ConvertObjectModified(const CZtObjectModified& event, QString& text);
+    [[nodiscard]] ResultCode ConvertPropertyChanged(const CZtPropertyChanged& event, QString& text);
+
+    // True for exactly the nine classes of dimensions.
+    [[nodiscard]] static bool IsDimensionClass(const OdRxClass* objectClass);
+
+    // The variable of an object. For one that the macro doesn't know it takes a new number, and the text that comes
+    // back fetches the object by its handle; it is empty for a known one. A class that the API doesn't have gives an
+    // empty variable and no text.
+    [[nodiscard]] QString GetObjectByHandle(OdDbHandle handle, const OdRxClass* objectClass, QString& variable);
+
+    // Hyperlink of a block definition.
+    [[nodiscard]] QString SetHyperLink(const QString& variable, const QString& address, const QString& description);
+
+    // The text operations.
+#define OPERATION(result, name, parameters) [[nodiscard]] virtual result name parameters = 0;
+#include "objects/object_operations.def"
+#undef OPERATION
+
+protected:
+    // The converter owns this object and outlives it; without one every operation throws OdError 20.
+    explicit CZtConverterKVAPIObject(CZtConverterKVAPIImpl* converter) : converter_(converter) {}
+
+    [[nodiscard]] CZtConverterKVAPIImpl& Converter() const;
+    [[nodiscard]] ConversionCounters& Counters() const { return Converter().Counters(); }
+
+private:
+    // The properties of a creation: those that the creation call carries are taken with the consumed list.
+    struct Creation
+    {
+        PropertyList& properties;
+        ConsumedProperties& consumed;
+        OdDbHandle handle;
+        const QString& variable;
+    };
+
+    // The properties of a pass over an object.
+    struct PropertyPass
+    {
+        PropertyList& properties;
+        bool created; // the object was made just now, by a call that carries most of its properties
+        const QString& variable;
+    };
+
+    using CreationBranch = QString (CZtConverterKVAPIObject::*)(const Creation&);
+    using PropertyBranch = QString (CZtConverterKVAPIObject::*)(const PropertyPass&);
+
+    // The passes.
+    [[nodiscard]] ResultCode ConvertCreation(const OdRxClass* objectClass, OdDbHandle handle, PropertyList& properties,
+                                             PropertyList& remaining, QString& text);
+    [[nodiscard]] ResultCode ConvertModification(const OdRxClass* objectClass, OdDbHandle handle,
+                                                 PropertyList& properties, QString& text);
+    [[nodiscard]] ResultCode ConvertProperties(const OdRxClass* objectClass, OdDbHandle handle,
+                                               PropertyList& properties, bool created, QString& text);
+    [[nodiscard]] QString ConvertEntityProperties(const PropertyPass& pass, bool& noBlock);
+    [[nodiscard]] QString ConvertErased(const OdRxClass* objectClass, const PropertyPass& pass);
+    [[nodiscard]] QString ConvertClassProperties(const OdRxClass* objectClass, const PropertyPass& pass);
+
+    // Names.
+    [[nodiscard]] static bool GetObjectTypeName(OdDbHandle handle, const OdRxClass* objectClass, QString& typeName);
+    [[nodiscard]] PropertyList PropertiesOf(const CZtPropertyList& elements) const;
+
+    // The texts of referenced objects; empty when the object is gone.
+    [[nodiscard]] QString SetLayer(const QString& variable, const OdDbObjectId& layer);
+    [[nodiscard]] QString SetLineStyle(const QString& variable, const QString& word, const OdDbObjectId& lineStyle);
+
+    // Changed properties: each is taken from the list and written only when the object isn't new. The names are those
+    // of the journal, the words those of the API.
+    using CoordinateNames = std::array<const char*, 3>;
+    using PointWriter = QString (CZtConverterKVAPIObject::*)(const QString&, Axis, double);
+    [[nodiscard]] static std::optional<double> TakeChange(const PropertyPass& pass, const char* name);
+    [[nodiscard]] QString ChangeDouble(const PropertyPass& pass, const char* name, const char* word);
+    [[nodiscard]] QString ChangePoint(const PropertyPass& pass, const CoordinateNames& names, PointWriter write);
+    [[nodiscard]] QString ChangeCoordinates(const PropertyPass& pass, const CoordinateNames& names, const char* getter,
+                                            const char* setter);
+
+    // Curves and points.
+    [[nodiscard]] QString CreateLine(const Creation& creation);
+    [[nodiscard]] QString CreateCircle(const Creation& creation);
+    [[nodiscard]] QString CreatePoint(const Creation& creation);
+    [[nodiscard]] QString CreateRay(const Creation& creation);
+    [[nodiscard]] QString CreateArc(const Creation& creation);
+    [[nodiscard]] QString CreateInfiniteLine(const Creation& creation);
+    [[nodiscard]] QString CreateEllipse(const Creation& creation);
+    [[nodiscard]] QString ConvertLine(const PropertyPass& pass);
+    [[nodiscard]] QString ConvertCircle(const PropertyPass& pass);
+    [[nodiscard]] QString ConvertPoint(const PropertyPass& pass);
+    [[nodiscard]] QString ConvertRay(const PropertyPass& pass);
+    [[nodiscard]] QString ConvertArc(const PropertyPass& pass);
+    [[nodiscard]] QString ConvertInfiniteLine(const PropertyPass& pass);
+    [[nodiscard]] QString ConvertEllipse(const PropertyPass& pass);
+
+    CZtConverterKVAPIImpl* converter_;
+    CreatedObjects createdObjects_;
+    DisplayWords words_;
+};

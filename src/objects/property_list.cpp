@@ -1,0 +1,91 @@
+// The properties of one event, as the conversion uses them up.
+#include "objects/property_list.h"
+
+#include <QtCore/QStringList>
+
+#include <cstring>
+
+namespace
+{
+// The one name that stands for a whole group.
+bool IsGroup(const char* name)
+{
+    return std::strcmp(name, "BlockAttributes") == 0;
+}
+} // namespace
+
+CZtPropertyList::const_iterator PropertyList::Find(const char* name) const
+{
+    if (IsGroup(name))
+    {
+        return std::ranges::find_if(elements_,
+                                    [&](const CZtPropertyElementPtr& element) {
+                                        return words_.Matches(DisplayWords::Context::PropertyGroups, name,
+                                                              element->GetGroup(), Qt::CaseInsensitive);
+                                    });
+    }
+    return std::ranges::find_if(elements_,
+                                [&](const CZtPropertyElementPtr& element)
+                                {
+                                    const QString& own = element->GetName();
+                                    return own == QLatin1String(name) ||
+                                           words_.Matches(DisplayWords::Context::PropertyTypes, name, own);
+                                });
+}
+
+bool PropertyList::Holds(const char* name) const
+{
+    return Find(name) != elements_.end();
+}
+
+CZtVariant PropertyList::TakeProperty(const char* name, ConsumedProperties* consumed, CZtVariant* tag)
+{
+    const auto found = Find(name);
+    if (found == elements_.end())
+    {
+        return {};
+    }
+    const CZtPropertyElementPtr element = *found;
+    elements_.erase(found);
+    if (tag != nullptr)
+    {
+        *tag = IsGroup(name) ? CZtVariant(element->GetName()) : element->GetTag(hostContext_);
+    }
+    CZtVariant value = element->GetValue(hostContext_);
+    if (consumed != nullptr)
+    {
+        consumed->push_back(element);
+    }
+    return value;
+}
+
+OdGePoint3d PropertyList::TakePoint(const char* xName, const char* yName, const char* zName,
+                                    ConsumedProperties* consumed)
+{
+    const double x = TakeDouble(xName, 0.0, consumed);
+    const double y = TakeDouble(yName, 0.0, consumed);
+    const double z = TakeDouble(zName, 0.0, consumed);
+    return {x, y, z};
+}
+
+double PropertyList::TakeDouble(const char* name, double missing, ConsumedProperties* consumed)
+{
+    const CZtVariant value = TakeProperty(name, consumed);
+    return value.IsNull() ? missing : value.GetDouble();
+}
+
+void PropertyList::DropConsumed(const ConsumedProperties& consumed)
+{
+    for (const CZtPropertyElementPtr& used : consumed)
+    {
+        const auto same = std::ranges::find_if(elements_,
+                                               [&](const CZtPropertyElementPtr& element) {
+                                                   return element->GetName().compare(used->GetName()) == 0 &&
+                                                          element->GetGroup().compare(used->GetGroup()) == 0;
+                                               });
+        if (same != elements_.end())
+        {
+            elements_.erase(same);
+        }
+    }
+}

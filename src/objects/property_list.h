@@ -1,0 +1,46 @@
+// The properties of one event, as the conversion uses them up.
+#pragma once
+
+#include "host/kernel/journal_events.h"
+#include "objects/display_words.h"
+
+// The elements that a pass has taken, in the order of taking.
+using ConsumedProperties = CZtPropertyList;
+
+class PropertyList
+{
+public:
+    // A copy of the elements of an event. The words and the context are used for every reading.
+    PropertyList(CZtPropertyList elements, const DisplayWords& words, std::uint64_t hostContext)
+        : elements_(std::move(elements)), words_(words), hostContext_(hostContext)
+    {
+    }
+
+    [[nodiscard]] bool IsEmpty() const { return elements_.empty(); }
+
+    // Takes the first element of a name, which is compared as it stands and in the user's language: the element leaves
+    // the list and goes to the consumed ones when they are given; its tag goes to tag when asked for. "BlockAttributes"
+    // takes the first element of the group of that name instead, its tag being the element's name. Gives the value,
+    // null when there is no such element.
+    CZtVariant TakeProperty(const char* name, ConsumedProperties* consumed = nullptr, CZtVariant* tag = nullptr);
+
+    // The same for three coordinates, each 0 when it is missing.
+    OdGePoint3d TakePoint(const char* xName, const char* yName, const char* zName,
+                          ConsumedProperties* consumed = nullptr);
+
+    // A number, or the default when it is missing.
+    double TakeDouble(const char* name, double missing, ConsumedProperties* consumed = nullptr);
+
+    // True when the list holds an element of the name.
+    [[nodiscard]] bool Holds(const char* name) const;
+
+    // Removes for each consumed element the first one of the same name and group.
+    void DropConsumed(const ConsumedProperties& consumed);
+
+private:
+    [[nodiscard]] CZtPropertyList::const_iterator Find(const char* name) const;
+
+    CZtPropertyList elements_;
+    const DisplayWords& words_;
+    std::uint64_t hostContext_;
+};

@@ -1,0 +1,24 @@
+// Reading property values that arrive in several shapes: plain, as a selection, or as an element of a collection.
+#pragma once
+
+#include "host/kernel/variant.h"
+#include "objects/display_words.h"
+
+// The text of a value: that of the selected element of a selection, of an element's value, else its own. Empty for a
+// selection without a current element.
+[[nodiscard]] inline QString TextOf(const CZtVariant& value)
+{
+    if (value.GetType() != CZtVariant::kCollection && value.GetType() != CZtVariant::kElement)
+    {
+        return value.GetString();
+    }
+    const CZtVariantCollectionElement* element = value.GetCollectionElement();
+    return element != nullptr ? element->GetValue()->GetString().text() : QString();
+}
+
+// True when the text of a value is the word in the user's language.
+[[nodiscard]] inline bool IsWord(const DisplayWords& words, const CZtVariant& value, const char* word,
+                                 Qt::CaseSensitivity sensitivity = Qt::CaseSensitive)
+{
+    return words.Matches(DisplayWords::Context::PropertyValues, word, TextOf(value), sensitivity);
+}

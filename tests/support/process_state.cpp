@@ -1,0 +1,11 @@
+// What the conversion keeps for the whole process.
+#include "support/process_state.h"
+
+#include "backends/cpp/counters.h"
+#include "core/recording_start.h"
+
+void ResetProcessState()
+{
+    RecordingStart::Current() = {};
+    CppCounters::OfProcess() = {};
+}
