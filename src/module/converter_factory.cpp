@@ -2,6 +2,7 @@
 #include "module/converter_factory.h"
 
 #include "backends/cpp/converter.h"
+#include "backends/cppcom/converter.h"
 #include "core/macro_language.h"
 
 std::shared_ptr<CZtConverterKVAPI> CreateConverter(std::uint32_t languageIndex, std::int32_t recordingMode,
@@ -12,6 +13,9 @@ std::shared_ptr<CZtConverterKVAPI> CreateConverter(std::uint32_t languageIndex, 
     {
     case MacroLanguage::CppApi:
         converter = std::make_shared<CZtConverterKVAPICPP>(recordingMode);
+        break;
+    case MacroLanguage::CppCom:
+        converter = std::make_shared<CZtConverterKVAPICPPCOM>(recordingMode);
         break;
     default:
         return nullptr;
