@@ -23,7 +23,7 @@ void WriteFilters(kv::VcprojWriter& xml)
 QString ProjectTemplate()
 {
     return kv::AddinProjectTemplate({.indent = "    ",
-                                     .encoding = "windows-1252",
+                                     .declaration = "<?xml version=\"1.0\" encoding=\"windows-1252\"?>",
                                      .guid = "{8FBE8FD7-7EED-4D16-9316-FA646341A656}",
                                      .rootNamespace = "Reactors",
                                      .useOfAtl = "0",

@@ -33,7 +33,7 @@ QString ProjectTemplate()
 {
     return kv::AddinProjectTemplate(
         {.indent = " ",
-         .encoding = "Windows-1252",
+         .declaration = "<?xml version=\"1.0\" encoding=\"Windows-1252\"?>",
          .guid = "%3",
          .rootNamespace = "%1",
          .useOfAtl = "2",

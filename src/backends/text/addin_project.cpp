@@ -126,8 +126,7 @@ void AddProjectFileWithBuildStep(VcprojWriter& xml, const char* path)
 QString AddinProjectTemplate(const AddinProject& project)
 {
     VcprojWriter xml(project.indent, "%2");
-    // The declaration names another encoding than the file's; the format's.
-    xml.Raw(QByteArray("<?xml version=\"1.0\" encoding=\"").append(project.encoding).append("\"?>"));
+    xml.Raw(project.declaration);
     xml.Open("VisualStudioProject", {{"ProjectType", "Visual C++"},
                                      {"Version", "9.00"},
                                      {"Name", "%1"},

@@ -9,8 +9,8 @@ namespace kv
 // What differs between the projects. The values are templates, with the markers that the language fills.
 struct AddinProject
 {
-    const char* indent; // one level
-    const char* encoding;
+    const char* indent;      // one level
+    const char* declaration; // of the XML; it names another encoding than the file's, which is the format's
     const char* guid;
     const char* rootNamespace;
     const char* useOfAtl;
