@@ -1,5 +1,5 @@
 // Runs the case files, each as a test of its own.
-#include "cases/case_file.h"
+#include "support/case_file.h"
 
 #include "support/conversion_run.h"
 #include "support/process_state.h"

@@ -1,5 +1,5 @@
 // Reading case files.
-#include "cases/case_file.h"
+#include "support/case_file.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QStringList>
@@ -56,8 +56,9 @@ std::map<QString, QByteArray> Sections(const QString& path)
 
 CaseFile CaseFile::Read(const QString& path)
 {
-    static const QStringList languages = {QStringLiteral("cpp"),   QStringLiteral("csharp"), QStringLiteral("javascript"),
-                                          QStringLiteral("vbnet"), QStringLiteral("cppcom"), QStringLiteral("vba")};
+    static const QStringList languages = {QStringLiteral("cpp"),        QStringLiteral("csharp"),
+                                          QStringLiteral("javascript"), QStringLiteral("vbnet"),
+                                          QStringLiteral("cppcom"),     QStringLiteral("vba")};
     CaseFile file;
     for (const auto& [heading, text] : Sections(path))
     {
