@@ -60,8 +60,9 @@ std::map<QString, QByteArray> Sections(const QString& path)
 
 CaseFile CaseFile::Read(const QString& path)
 {
-    static const QStringList languages = {QStringLiteral("cpp"),   QStringLiteral("csharp"), QStringLiteral("javascript"),
-                                          QStringLiteral("vbnet"), QStringLiteral("cppcom"), QStringLiteral("vba")};
+    static const QStringList languages = {QStringLiteral("cpp"),        QStringLiteral("csharp"),
+                                          QStringLiteral("javascript"), QStringLiteral("vbnet"),
+                                          QStringLiteral("cppcom"),     QStringLiteral("vba")};
     CaseFile file;
     for (const auto& [heading, text] : Sections(path))
     {
