@@ -43,8 +43,8 @@ class Language:
 
     def compile(self, arguments):
         """Calls the compiler in the folder of the stand-ins."""
-        done = subprocess.run([*COMPILE, "-I.", *arguments], cwd=self.folder, capture_output=True, text=True, check=False,
-                              env={**os.environ, "LC_ALL": "C"})
+        done = subprocess.run([*COMPILE, "-I.", *arguments], cwd=self.folder, env={**os.environ, "LC_ALL": "C"},
+                              capture_output=True, text=True, check=False)
         if done.returncode:
             raise DoesNotCompile(done.stderr)
 
@@ -98,7 +98,8 @@ class Teller:
         elif re.match("Set(Command|Application)Option", member):
             self.steps.append(["option", arguments[0], arguments[1] if len(arguments) == 3 else arguments[1:-1]])
         elif member in ("GetColorByIndex", "GetRGBColor"):
-            self.values[arguments[-1]["out"]] = {"index": arguments[0]} if len(arguments) == 2 else {"rgb": arguments[:3]}
+            color = {"index": arguments[0]} if member == "GetColorByIndex" else {"rgb": arguments[:3]}
+            self.values[arguments[-1]["out"]] = color
         elif member == "CreatePoint":
             self.values[arguments[-1]["out"]] = arguments[:3]
         elif owner == "Transparency":

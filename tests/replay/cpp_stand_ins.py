@@ -55,7 +55,8 @@ def member_text(owner, member):
     result = "void"
     if member.result and member.result.way == "handle":
         result = f"kv{member.result.type}_ptr*"
-        statements.append(f'{result[:-1]}* made = new {result[:-1]}; call.add(replay::object("out", made->number)); return made;')
+        statements += [f"{result} made = new {result[:-1]};",
+                       'call.add(replay::object("out", made->number));', "return made;"]
     elif member.result:
         result = type_name(member.result.type)
         statements.append(f"return static_cast<{result}>(0);")
@@ -74,8 +75,9 @@ def header():
         names = [name for name, _ in constants] or [f"{enumeration}_none"]
         parts.append(f"enum {enumeration}\n{{\n    " + ",\n    ".join(names) + "\n};")
         cases = "".join(f'\n    case {name}:\n        return "\\"{name}\\"";' for name in names)
-        parts.append(f"namespace replay\n{{\ninline std::string json({enumeration} value)\n{{\n    switch (value)\n    {{"
-                     f"{cases}\n    }}\n    return std::to_string(static_cast<int>(value));\n}}\n}}")
+        parts.append(f"namespace replay\n{{\ninline std::string json({enumeration} value)\n{{\n"
+                     f"    switch (value)\n    {{{cases}"
+                     f"\n    }}\n    return std::to_string(static_cast<int>(value));\n}}\n}}")
     # Arrays of whole numbers take the constants of object types, and record them by name.
     parts.append("struct kvLongArray : replay::Array<long>\n{\n    using replay::Array<long>::add;\n"
                  "    void add(kvObjectType_e value)\n    {\n"

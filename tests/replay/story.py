@@ -78,8 +78,10 @@ PROMPTS = [
     ("Integer", 1, "not text", "Specify integer: "),
     ("Double", 1.0, "not text", "Specify double: "),
 ]
-KINDS = ("point", "angle", "distance", "orientation", "corner", "scale", "string", "keyword", "color", "integer", "double")
-CODES = {"real": REAL, "double": REAL, "angle": ANGLE, "text": TEXT, "string": TEXT, "point": POINT3D, "point3d": POINT3D}
+KINDS = ("point", "angle", "distance", "orientation", "corner", "scale", "string", "keyword", "color", "integer",
+         "double")
+CODES = {"real": REAL, "double": REAL, "angle": ANGLE, "text": TEXT, "string": TEXT, "point": POINT3D,
+         "point3d": POINT3D}
 LAST_ACTION = 48
 
 
@@ -259,13 +261,15 @@ class Reader:
                 value = reckon(self.number(name, properties))
                 self.steps.append([step, number, *(word if step == "coordinate" else [word]), value])
         erased = self.find("Erased", properties)
-        if isinstance(erased, str) and erased.lower() == self.words.get("property_values", {}).get("YES", "YES").lower():
+        yes = self.words.get("property_values", {}).get("YES", "YES")
+        if isinstance(erased, str) and erased.lower() == yes.lower():
             self.steps.append(["set", number, "Erased", True])
 
     def common(self, number, properties, new):
         """The properties that every entity has, in their order."""
         for name, reckon in (("LineColor", self.color), ("Layer", self.name_of), ("LineStyle", self.name_of),
-                             ("LineScale", None), ("LineWeight", self.weight), ("Thickness", None), ("PrintStyle", text_in)):
+                             ("LineScale", None), ("LineWeight", self.weight), ("Thickness", None),
+                             ("PrintStyle", text_in)):
             value = self.find(name, properties)
             if value is not None:
                 value = reckon(value) if reckon else self.number(name, properties)

@@ -87,10 +87,7 @@ public:
     {
     }
 
-    ~Call()
-    {
-        std::fprintf(output(), "%s]}\n", m_text.c_str());
-    }
+    ~Call() { std::fprintf(output(), "%s]}\n", m_text.c_str()); }
 
     void add(const std::string& argument)
     {
@@ -99,11 +96,8 @@ public:
         m_first = false;
     }
 
-    // A number that the API gives back: it tells its place, so that a macro that hands it on shows where it had it from.
-    double mark()
-    {
-        return 900000.5 + m_marks++;
-    }
+    // A number that the API gives back: it tells its place, so that a macro that hands it on shows where it is from.
+    double mark() { return 900000.5 + m_marks++; }
 
 private:
     std::string m_text;
@@ -116,25 +110,13 @@ template <class T>
 class Pointer
 {
 public:
-    Pointer(T* target = nullptr)
-        : m_target(target)
-    {
-    }
+    Pointer(T* target = nullptr) : m_target(target) {}
 
-    operator T*() const
-    {
-        return m_target;
-    }
+    operator T*() const { return m_target; }
 
-    T* operator->() const
-    {
-        return m_target ? m_target : nothing();
-    }
+    T* operator->() const { return m_target ? m_target : nothing(); }
 
-    T** operator&()
-    {
-        return &m_target;
-    }
+    T** operator&() { return &m_target; }
 
 private:
     static T* nothing()
@@ -153,26 +135,14 @@ class kvString
 public:
     kvString() = default;
 
-    kvString(const wchar_t* text)
-        : m_text(text)
-    {
-    }
+    kvString(const wchar_t* text) : m_text(text) {}
 
     // The API takes narrow literals, too: some texts of macros have no L before the quote.
-    kvString(const char* text)
-        : m_text(text, text + std::char_traits<char>::length(text))
-    {
-    }
+    kvString(const char* text) : m_text(text, text + std::char_traits<char>::length(text)) {}
 
-    bool operator==(const kvString& other) const
-    {
-        return m_text == other.m_text;
-    }
+    bool operator==(const kvString& other) const { return m_text == other.m_text; }
 
-    const std::wstring& text() const
-    {
-        return m_text;
-    }
+    const std::wstring& text() const { return m_text; }
 
 private:
     std::wstring m_text;
@@ -198,30 +168,15 @@ public:
         m_values.push_back(value);
     }
 
-    void clear()
-    {
-        m_values.clear();
-    }
+    void clear() { m_values.clear(); }
 
-    long getSize() const
-    {
-        return static_cast<long>(m_values.size());
-    }
+    long getSize() const { return static_cast<long>(m_values.size()); }
 
-    T operator[](long index) const
-    {
-        return m_values.at(static_cast<std::size_t>(index));
-    }
+    T operator[](long index) const { return m_values.at(static_cast<std::size_t>(index)); }
 
-    std::vector<T>& values()
-    {
-        return m_values;
-    }
+    std::vector<T>& values() { return m_values; }
 
-    const std::vector<T>& values() const
-    {
-        return m_values;
-    }
+    const std::vector<T>& values() const { return m_values; }
 
 private:
     std::vector<T> m_values;

@@ -1,5 +1,6 @@
-// Texts as macros hold them, of families whose shape asks something of the stand-ins: casts, addresses of pointers, calls
-// with a result, empty pointers compared, arrays read. They only have to compile.
+// Texts as macros hold them, of families that ask something of the stand-ins: casts, addresses of pointers, calls with
+// a result, empty pointers compared, arrays read. They only have to compile, and keep their own layout.
+// clang-format off
 #include "kvApplication_c.h"
 #include "kvInterfacePtr.h"
 #include "math.h"
