@@ -6,11 +6,15 @@
 #include <new>
 #include <utility>
 
+#if defined(__linux__)
+#include <sys/mman.h>
+#endif
+
 namespace kv
 {
 namespace
 {
-constexpr std::size_t ChunkSize = std::size_t(1) << 18;
+constexpr std::size_t ChunkSize = std::size_t(1) << 21;
 constexpr std::size_t Alignment = alignof(std::max_align_t);
 
 struct alignas(Alignment) Chunk
@@ -28,6 +32,16 @@ struct alignas(Alignment) Chunk
     }
 };
 
+Chunk* newChunk()
+{
+    void* memory = ::operator new(ChunkSize, std::align_val_t(ChunkSize));
+#if defined(__linux__)
+    // A chunk has the size of a huge page; faulting in small ones took a third of the time of reading.
+    madvise(memory, ChunkSize, MADV_HUGEPAGE);
+#endif
+    return new (memory) Chunk;
+}
+
 // The chunk that this thread takes objects from.
 class CurrentChunk
 {
@@ -42,7 +56,7 @@ public:
         const std::size_t rounded = (size + Alignment - 1) / Alignment * Alignment;
         if (chunk_ == nullptr || ChunkSize - chunk_->used < rounded)
         {
-            replace(new (::operator new(ChunkSize, std::align_val_t(ChunkSize))) Chunk);
+            replace(newChunk());
         }
         chunk_->users.fetch_add(1, std::memory_order_relaxed);
         return reinterpret_cast<char*>(chunk_) + std::exchange(chunk_->used, chunk_->used + rounded);

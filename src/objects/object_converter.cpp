@@ -1,13 +1,12 @@
 // The events of drawing objects, the creation pass and the property pass.
 #include "objects/object_converter.h"
 
-#include "core/macro_language.h"
 #include "core/type_table.h"
-#include "core/variable_names.h"
 #include "host/db/blocks.h"
 #include "host/db/curves.h"
 #include "host/db/dimensions.h"
 #include "host/db/text.h"
+#include "host/kernel/services.h"
 #include "objects/variant_readers.h"
 
 CZtConverterKVAPIImpl& CZtConverterKVAPIObject::Converter() const
@@ -94,43 +93,6 @@ bool CZtConverterKVAPIObject::IsDimensionClass(const OdRxClass* objectClass)
         OdDbArcDimension::desc(),     OdDbDiametricDimension::desc(),    OdDbOrdinateDimension::desc(),
         OdDbRadialDimension::desc(),  OdDbRadialDimensionLarge::desc(),  OdDbRotatedDimension::desc()};
     return std::ranges::find(classes, objectClass) != classes.end();
-}
-
-bool CZtConverterKVAPIObject::GetObjectTypeName(OdDbHandle handle, const OdRxClass* objectClass, QString& typeName)
-{
-    QString constant;
-    if (CZtConverterKVAPIImpl::GetObjectTypeNames(objectClass, typeName, constant) != ResultNormal)
-    {
-        return false;
-    }
-    if (objectClass == OdDbViewTableRecord::desc() && ACTIVE_DOCUMENT() != nullptr)
-    {
-        const OdDbObjectPtr object = ACTIVE_DOCUMENT()->GetZtDatabase()->getOdDbObjectId(handle).openObject();
-        const auto view = OdSmartPtr<OdDbViewTableRecord>::cast(object);
-        if (view && view->isPaperspaceView())
-        {
-            typeName.replace(QLatin1String("ModelNamedView"), QLatin1String("SheetNamedView"));
-        }
-    }
-    return true;
-}
-
-QString CZtConverterKVAPIObject::GetObjectByHandle(OdDbHandle handle, const OdRxClass* objectClass, QString& variable)
-{
-    variable.clear();
-    QString typeName;
-    if (!GetObjectTypeName(handle, objectClass, typeName))
-    {
-        return {};
-    }
-    if (const ObjectPair* known = Converter().FindKnownObject(handle))
-    {
-        variable = VariableName(typeName, known->number, PlainPointerMark::Removed);
-        return {};
-    }
-    const std::int32_t number = ++Counters().ObjectSequence;
-    variable = VariableName(typeName, number, PlainPointerMark::Removed);
-    return WriteGetObjectByHandle(variable, typeName, handle.ascii(), number);
 }
 
 ResultCode CZtConverterKVAPIObject::ConvertCreation(const OdRxClass* objectClass, OdDbHandle handle,

@@ -1,5 +1,5 @@
 // Which lines the reader refuses, where it says so, and in which words.
-#include "embedded/journal_text.h"
+#include "journal_text.h"
 
 namespace kv::testing
 {
@@ -83,12 +83,12 @@ TEST(BadInput, NamesTheLineAndTheFault)
 
 TEST(BadInput, ValuesOfPropertiesHaveTheirForm)
 {
-    for (const char* value : {R"({})", R"([])", R"({"int":1,"point":[0,0,0]})", R"({"int":1.5})", R"({"int":"1"})",
-                              R"({"point":[0,0]})", R"({"point":[0,0,"0"]})", R"({"points":[[0,0]]})",
-                              R"({"color":"red"})", R"({"color":{"index":-1}})", R"({"color":{"rgb":[0,0,256]}})",
-                              R"({"transparency":{"alpha":256}})", R"({"id":5})", R"({"element":{"tag":1}})",
-                              R"({"collection":{"elements":[]}})", R"({"collection":{"index":0,"elements":[1]}})",
-                              R"({"real":1})"})
+    for (const char* value :
+         {R"({})", R"([])", R"({"int":1,"point":[0,0,0]})", R"({"int":1.5})", R"({"int":"1"})", R"({"point":[0,0]})",
+          R"({"point":[0,0,"0"]})", R"({"points":[[0,0]]})", R"({"color":"red"})", R"({"color":{"index":-1}})",
+          R"({"color":{"rgb":[0,0,256]}})", R"({"transparency":{"alpha":256}})", R"({"id":5})",
+          R"({"element":{"tag":1}})", R"({"collection":{"elements":[]}})",
+          R"({"collection":{"index":0,"elements":[1]}})", R"({"real":1})"})
     {
         const JournalDiagnostics told = FaultsOf(
             Head + "\n" + R"({"changed":{"class":"A","handle":"1","property":{"name":"X","value":)" + value + "}}}\n");

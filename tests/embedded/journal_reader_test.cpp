@@ -1,5 +1,5 @@
 // Events, their order and lines, files that were cut off, values in all their forms.
-#include "embedded/journal_text.h"
+#include "journal_text.h"
 
 #include "host/db/object.h"
 
@@ -12,8 +12,9 @@ namespace
 // The value of the only property of a "changed" event.
 CZtVariant variantOf(const std::string& value, const std::string& before = {})
 {
-    const auto session = LoadLines(before + R"({"changed":{"class":"AcDbLine","handle":"1","property":)"
-                                            R"({"name":"X","value":)" +
+    const auto session = LoadLines(before +
+                                   R"({"changed":{"class":"AcDbLine","handle":"1","property":)"
+                                   R"({"name":"X","value":)" +
                                    value + "}}}\n");
     return EventAt<CZtPropertyChanged>(*session, 0)->GetValue(0);
 }
@@ -59,8 +60,8 @@ null
     std::vector<CZtString> local;
     std::vector<CZtString> global;
     prompt->GetKeywords(local, global);
-    EXPECT_EQ(local, std::vector<CZtString>{"a"});
-    EXPECT_EQ(global, std::vector<CZtString>{"b"});
+    EXPECT_TRUE(local == std::vector<CZtString>{"a"});
+    EXPECT_TRUE(global == std::vector<CZtString>{"b"});
 
     const auto selection = EventAt<CZtUserSelection>(*session, 1);
     EXPECT_EQ(selection->GetSelectedHandles(), (std::vector{OdDbHandle(0x2A), OdDbHandle(0x2B)}));
@@ -86,10 +87,10 @@ TEST(JournalReader, PropertiesKeepTheirOrderAndTheSecondListEqualsTheFirstWhenAb
     const auto first = EventAt<CZtObjectAdded>(*session, 0);
     const CZtPropertyList& list = first->GetProperties();
     ASSERT_EQ(list.size(), 3U);
-    EXPECT_EQ(list[0]->GetName(), "Z");
-    EXPECT_EQ(list[0]->GetGroup(), "G");
-    EXPECT_EQ(list[0]->GetTag(0).GetString(), "t");
-    EXPECT_EQ(list[1]->GetName(), "A");
+    EXPECT_EQ(list[0]->GetName().text(), QLatin1String("Z"));
+    EXPECT_EQ(list[0]->GetGroup().text(), QLatin1String("G"));
+    EXPECT_EQ(list[0]->GetTag(0).GetString().text(), QLatin1String("t"));
+    EXPECT_EQ(list[1]->GetName().text(), QLatin1String("A"));
     EXPECT_TRUE(list[1]->GetTag(0).IsNull());
     EXPECT_TRUE(list[1]->GetGroup().isEmpty());
     EXPECT_EQ(&first->GetDefaultProperties(), &list);
@@ -143,10 +144,31 @@ TEST(JournalReader, LinesOfAnyLengthAndLineEndAreRead)
     EXPECT_EQ(session->LineOf(*session->Journal()[5]), 10);
 }
 
+TEST(JournalReader, NumbersOfAnyLengthAreReals)
+{
+    EXPECT_EQ(variantOf("123456789012345678901234567890").GetDouble(), 123456789012345678901234567890.0);
+    EXPECT_EQ(variantOf("-99999999999999999999").GetDouble(), -1e20);
+    EXPECT_EQ(variantOf(R"({"element":{"tag":"\"12345678901234567890123","value":123456789012345678901234e2}})")
+                  .GetCollectionElement()
+                  ->GetTag()
+                  ->GetString()
+                  .text(),
+              QLatin1String("\"12345678901234567890123"));
+    EXPECT_EQ(variantOf("0.1234567890123456789012345").GetDouble(), 0.1234567890123456789012345);
+    EXPECT_EQ(FaultsOf(Head + "\n{\"action\":{\"id\":99999999999999999999999,\"data\":[]}}").faultCount, 1);
+    EXPECT_EQ(FaultsOf(Head + "\n{\"sysvar\":{\"name\":\"A\",\"value\":1e999}}\n").faultCount, 1);
+}
+
+TEST(JournalReader, AByteOrderMarkIsNoPartOfTheFirstLine)
+{
+    EXPECT_EQ(FaultsOf("\xEF\xBB\xBF" + Head).faultCount, 0);
+    EXPECT_EQ(FaultsOf(Head + "\n\xEF\xBB\xBF" + Head + "\n").faultCount, 1);
+}
+
 TEST(JournalReader, PropertyValuesHaveTheirTypes)
 {
     EXPECT_EQ(variantOf("null").GetType(), CZtVariant::kNullType);
-    EXPECT_EQ(variantOf("\"\\u00fc\"").GetString(), QString(QChar(0xFC)));
+    EXPECT_EQ(variantOf("\"\\u00fc\"").GetString().text(), QString(QChar(0xFC)));
     EXPECT_EQ(variantOf("3").GetType(), CZtVariant::kReal);
     EXPECT_EQ(variantOf("0.1").GetDouble(), 0.1);
     EXPECT_EQ(variantOf("true").GetType(), CZtVariant::kInteger);
@@ -159,8 +181,7 @@ TEST(JournalReader, PropertyValuesHaveTheirTypes)
     EXPECT_EQ(variantOf(R"({"color":{"rgb":[1,2,255]}})").GetColor(), OdCmColor::byColor(1, 2, 255));
     EXPECT_EQ(variantOf(R"({"transparency":{"alpha":128}})").GetTransparency(),
               OdCmTransparency(OdCmTransparency::Method::ByAlpha, 128));
-    EXPECT_EQ(variantOf(R"({"transparency":"byBlock"})").GetTransparency().method(),
-              OdCmTransparency::Method::ByBlock);
+    EXPECT_EQ(variantOf(R"({"transparency":"byBlock"})").GetTransparency().method(), OdCmTransparency::Method::ByBlock);
 
     const CZtVariant points = variantOf(R"({"points":[[0,0,0],[1,0,0]]})");
     ASSERT_EQ(points.GetType(), CZtVariant::kCollection);
@@ -172,7 +193,7 @@ TEST(JournalReader, PropertyValuesHaveTheirTypes)
               4);
     const CZtVariant list =
         variantOf(R"({"collection":{"index":1,"elements":[{"tag":1,"value":"a"},{"tag":2,"value":"b"}]}})");
-    EXPECT_EQ(list.GetCollectionElement()->GetValue()->GetString(), "b");
+    EXPECT_EQ(list.GetCollectionElement()->GetValue()->GetString().text(), QLatin1String("b"));
 }
 
 TEST(JournalReader, IdsAreResolvedWhereverTheObjectStands)
@@ -213,8 +234,8 @@ TEST(JournalReader, ResultBuffersHaveTheirCodes)
     EXPECT_EQ(bufferOf(R"({"int32":-70000})")->getInt32(), -70000);
     EXPECT_TRUE(bufferOf("true")->getBool());
     std::set<int> codes = {5001, 5004, 5005, 5009};
-    for (const char* own : {R"({"bool":true})", R"({"int8":1})", R"({"int16":1})", R"({"int32":1})",
-                            R"({"point2d":[0,0]})"})
+    for (const char* own :
+         {R"({"bool":true})", R"({"int8":1})", R"({"int16":1})", R"({"int32":1})", R"({"point2d":[0,0]})"})
     {
         EXPECT_TRUE(codes.insert(bufferOf(own)->restype()).second) << own;
     }
@@ -231,11 +252,21 @@ TEST(JournalReader, ActionItemsHaveTheirTypes)
         const char* item;
         int type;
     } forms[] = {
-        {R"({"int16":-1})", 1},          {R"({"strings":["a"]})", 4},     {R"({"int":1})", 5},
-        {R"({"handle":"f"})", 7},        {R"({"class":null})", 8},        {R"({"handles":["1"]})", 9},
-        {R"({"classes":[null,"A"]})", 10}, {R"({"point":[1,2,3]})", 11},  {R"({"points":[[1,2,3]]})", 12},
-        {R"({"vector":[1,2,3]})", 13},   {R"({"color":"byBlock"})", 14},  {R"({"ids":["1"]})", 15},
-        {R"({"points2d":[[1,2]]})", 16}, {R"({"doubles":[1]})", 17},      {R"({"ints":[1]})", 18},
+        {R"({"int16":-1})", 1},
+        {R"({"strings":["a"]})", 4},
+        {R"({"int":1})", 5},
+        {R"({"handle":"f"})", 7},
+        {R"({"class":null})", 8},
+        {R"({"handles":["1"]})", 9},
+        {R"({"classes":[null,"A"]})", 10},
+        {R"({"point":[1,2,3]})", 11},
+        {R"({"points":[[1,2,3]]})", 12},
+        {R"({"vector":[1,2,3]})", 13},
+        {R"({"color":"byBlock"})", 14},
+        {R"({"ids":["1"]})", 15},
+        {R"({"points2d":[[1,2]]})", 16},
+        {R"({"doubles":[1]})", 17},
+        {R"({"ints":[1]})", 18},
     };
     for (const auto& form : forms)
     {
@@ -243,7 +274,7 @@ TEST(JournalReader, ActionItemsHaveTheirTypes)
     }
     EXPECT_EQ(itemOf(R"({"handle":"f"})").GetHandle(), OdDbHandle(15));
     EXPECT_EQ(itemOf(R"({"vector":[1,2,3]})").GetVector().y, 2.0);
-    EXPECT_EQ(itemOf(R"({"strings":["a","b"]})").GetStringArray()[1], "b");
+    EXPECT_EQ(itemOf(R"({"strings":["a","b"]})").GetStringArray()[1].text(), QLatin1String("b"));
     const auto session = LoadLines(R"({"action":{"id":-7,"data":[]}})");
     const auto action = EventAt<CZtCustomAction>(*session, 0);
     EXPECT_EQ(action->GetActionId(), -7);

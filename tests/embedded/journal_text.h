@@ -31,7 +31,8 @@ inline JournalDiagnostics FaultsOf(const std::string& text)
 {
     JournalDiagnostics diagnostics;
     Session session;
-    EXPECT_EQ(session.LoadText(QByteArray::fromStdString(text), diagnostics), diagnostics.faultCount == 0) << text;
+    const bool good = session.LoadText(QByteArray::fromStdString(text), diagnostics);
+    EXPECT_EQ(good, diagnostics.faultCount == 0) << text;
     EXPECT_TRUE(diagnostics.faultCount == 0 || session.Journal().isEmpty());
     return diagnostics;
 }

@@ -1,6 +1,6 @@
 // C++ API texts of the properties that all entities share; the logic stands in objects/entity_properties.cpp.
 #include "backends/cpp/counters.h"
-#include "backends/cpp/object_cpp.h"
+#include "backends/cpp/object.h"
 #include "backends/text/enumerations.h"
 
 using kv::Fixed;

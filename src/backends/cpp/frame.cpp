@@ -1,6 +1,6 @@
 // C++ API texts of the macro's frame, of blocks and of declarations.
-#include "backends/cpp/converter_cpp.h"
-#include "backends/cpp/object_cpp.h"
+#include "backends/cpp/converter.h"
+#include "backends/cpp/object.h"
 #include "core/recording_start.h"
 
 CZtConverterKVAPICPP::CZtConverterKVAPICPP(std::int32_t recordingMode) : TextOperations(recordingMode)

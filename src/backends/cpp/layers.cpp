@@ -1,5 +1,5 @@
 // C++ API texts of layers.
-#include "backends/cpp/converter_cpp.h"
+#include "backends/cpp/converter.h"
 #include "backends/cpp/counters.h"
 
 QString CZtConverterKVAPICPP::WriteGetLayer(const QString& variable)

@@ -1,6 +1,6 @@
 // What the C++ API leaves unsaid.
-#include "backends/cpp/converter_cpp.h"
-#include "backends/cpp/object_cpp.h"
+#include "backends/cpp/converter.h"
+#include "backends/cpp/object.h"
 
 QString CZtConverterKVAPICPP::WriteComment(const QString& /*text*/)
 {

@@ -1,7 +1,7 @@
 // C++ API texts of options; the logic stands in core/options.cpp.
 // The options of the document stand in braces of their own, so that the locals of one don't clash with the next. The
 // small differences of blanks between them are the format's.
-#include "backends/cpp/converter_cpp.h"
+#include "backends/cpp/converter.h"
 
 using kv::General;
 

@@ -1,6 +1,6 @@
 // C++ API texts of the answers to prompts; the logic stands in core/prompt_answers.cpp.
 // The spelling "cmdMesage" is the format's.
-#include "backends/cpp/converter_cpp.h"
+#include "backends/cpp/converter.h"
 
 using kv::General;
 

@@ -1,5 +1,5 @@
 // C++ API texts of selections; the logic stands in core/selections.cpp.
-#include "backends/cpp/converter_cpp.h"
+#include "backends/cpp/converter.h"
 
 QString CZtConverterKVAPICPP::WriteSelectEntities(const EntityArray& entities)
 {

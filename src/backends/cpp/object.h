@@ -11,9 +11,4 @@ public:
 #define OPERATION(result, name, parameters) [[nodiscard]] result name parameters override;
 #include "objects/object_operations.def"
 #undef OPERATION
-
-private:
-    // The locals of a point whose one coordinate changes.
-    [[nodiscard]] QString DeclareCoordinates(std::int32_t number);
-    [[nodiscard]] QString AssignCoordinate(Axis axis, double value, std::int32_t number);
 };

@@ -1,5 +1,5 @@
-// C++ API texts of objects in general: comments and look-ups; the logic stands in objects/object_converter.cpp.
-#include "backends/cpp/object_cpp.h"
+// C++ API texts of comments and look-ups of objects; the logic stands in objects/lookups.cpp.
+#include "backends/cpp/object.h"
 
 CZtConverterKVAPIObjectCPP::CZtConverterKVAPIObjectCPP(CZtConverterKVAPIImpl* converter) : TextOperations(converter) {}
 
