@@ -46,9 +46,10 @@ constexpr std::array DrawingSupportLocations = {
     Location{"eFileLocDrawingSupprtRLineStyle", "RichLineStyleFilePath"},
 };
 
-// The property of a key; empty for an unknown one, whose text is written all the same.
-QString PropertyOf(std::span<const Location> locations, const QString& key)
+// The property of the key in an action's first item; empty for an unknown key, whose text is written all the same.
+QString PropertyOf(std::span<const Location> locations, const CZtCustomAction& action)
 {
+    const QString key = ActionData(action).Text(0).value_or(QString());
     const auto found =
         std::ranges::find_if(locations, [&](const Location& location)
                              { return key.compare(QLatin1String(location.key), Qt::CaseInsensitive) == 0; });
@@ -60,36 +61,37 @@ QString PropertyOf(std::span<const Location> locations, const QString& key)
 ResultCode CZtConverterKVAPIImpl::ConvertInterfaceFileLocation(const CZtCustomAction& action, QString& text)
 {
     return action.GetActionId() == 32
-               ? ConvertFileLocation(action, InterfacePropertyOf, &CZtConverterKVAPIImpl::WriteGetInterfaceFiles, text)
+               ? ConvertFileLocation(action, PropertyOf(InterfaceLocations, action),
+                                     &CZtConverterKVAPIImpl::WriteGetInterfaceFiles, text)
                : ResultError;
 }
 
 ResultCode CZtConverterKVAPIImpl::ConvertSystemFileLocation(const CZtCustomAction& action, QString& text)
 {
     return action.GetActionId() == 33
-               ? ConvertFileLocation(action, SystemPropertyOf, &CZtConverterKVAPIImpl::WriteGetSystemFiles, text)
+               ? ConvertFileLocation(action, PropertyOf(SystemLocations, action),
+                                     &CZtConverterKVAPIImpl::WriteGetSystemFiles, text)
                : ResultError;
 }
 
 ResultCode CZtConverterKVAPIImpl::ConvertDrawingSupportFileLocation(const CZtCustomAction& action, QString& text)
 {
-    return action.GetActionId() == 34 ? ConvertFileLocation(action, DrawingSupportPropertyOf,
-                                                            &CZtConverterKVAPIImpl::WriteGetDrawingSupportFiles, text)
-                                      : ResultError;
+    return action.GetActionId() == 34
+               ? ConvertFileLocation(action, PropertyOf(DrawingSupportLocations, action),
+                                     &CZtConverterKVAPIImpl::WriteGetDrawingSupportFiles, text)
+               : ResultError;
 }
 
-ResultCode CZtConverterKVAPIImpl::ConvertFileLocation(const CZtCustomAction& action, PropertyLookup propertyOf,
+ResultCode CZtConverterKVAPIImpl::ConvertFileLocation(const CZtCustomAction& action, const QString& property,
                                                       FilesWriter writeHead, QString& text)
 {
     const ActionData data(action);
-    const std::optional<QString> key = data.Text(0);
     const std::optional<QString> path = data.Text(1);
     const bool isList = data.Is(1, CZtCustomActionData::kStringArray);
-    if (!key || (!path && !isList))
+    if (!data.Is(0, CZtCustomActionData::kString) || (!path && !isList))
     {
         return ResultNormal;
     }
-    const QString property = propertyOf(*key);
     QString variable;
     QString converted = WriteBlockBegin();
     converted += (this->*writeHead)(variable);

@@ -72,8 +72,11 @@ QString CZtConverterKVAPIImpl::EditPolylines(const QString& keyword, const Actio
         {
             QString name;
             text += ObjectConverter().GetObjectByHandle(handles[i], classes[i], name);
-            names.append(name);
-            classNames.push_back(classes[i]->name());
+            if (!name.isEmpty())
+            {
+                names.append(name);
+                classNames.push_back(classes[i]->name());
+            }
         }
     }
     if (keyword == QLatin1String("_FIT"))
