@@ -6,12 +6,19 @@ ODRX_DEFINE_MEMBERS(CZtDatabase, OdDbDatabase, "CZtDatabase")
 CZtDocument::~CZtDocument() = default;
 CZtSystemSettings::~CZtSystemSettings() = default;
 CZtSystemServices::~CZtSystemServices() = default;
-CZtHost::~CZtHost() = default;
 ConversionObserver::~ConversionObserver() = default;
 
 namespace
 {
 CZtHost* registeredHost = nullptr;
+}
+
+CZtHost::~CZtHost()
+{
+    if (registeredHost == this)
+    {
+        registeredHost = nullptr;
+    }
 }
 
 void RegisterHost(CZtHost* host) noexcept

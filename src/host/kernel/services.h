@@ -60,6 +60,7 @@ public:
 class KVHOST_API CZtHost
 {
 public:
+    // Takes the registration back when it is this host's.
     virtual ~CZtHost();
 
     [[nodiscard]] virtual CZtSystemServices& SystemServices() = 0;
@@ -71,7 +72,7 @@ public:
     [[nodiscard]] virtual ConversionObserver* Observer() { return nullptr; }
 };
 
-// Makes the host known; it stays the caller's and must outlive its registration. Null takes it back.
+// Makes the host known in place of any other; it stays the caller's. Null takes the registration back.
 KVHOST_API void RegisterHost(CZtHost* host) noexcept;
 
 // The services of the registered host. A host must be registered.

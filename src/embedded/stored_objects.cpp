@@ -1,0 +1,331 @@
+// The getters of the database classes over stored values. A getter more is one line here.
+#include "embedded/stored_objects.h"
+
+#include "embedded/drawing.h"
+#include "host/db/blocks.h"
+#include "host/db/dimensions.h"
+#include "host/db/polylines.h"
+#include "host/db/text.h"
+
+#include <unordered_map>
+
+namespace kv
+{
+namespace
+{
+// What all objects have in common, and short names for their values.
+template <class Base>
+class Stored : public Base
+{
+public:
+    Stored(Drawing& drawing, OdDbHandle handle, const OdRxClass* objectClass, ObjectValues values)
+        : drawing_(drawing), handle_(handle), class_(objectClass), values_(std::move(values))
+    {
+    }
+
+    const OdRxClass* isA() const override { return class_; }
+    OdDbObjectId objectId() const override { return {&drawing_, handle_}; }
+    bool isErased() const override { return flag("erased"); }
+    OdArray<OdDbObjectId> getPersistentReactors() const override
+    {
+        return drawing_.presentIds(values_.get<HandleList>("reactors"));
+    }
+
+protected:
+    bool flag(std::string_view key) const { return values_.get<bool>(key); }
+    int integer(std::string_view key) const { return values_.get<std::int32_t>(key); }
+    double number(std::string_view key) const { return values_.get<double>(key); }
+    const QString& text(std::string_view key) const { return values_.get<QString>(key); }
+    const OdGePoint3d& point(std::string_view key) const { return values_.get<OdGePoint3d>(key); }
+    const OdCmColor& color(std::string_view key) const { return values_.get<OdCmColor>(key); }
+    OdDbObjectId id(std::string_view key) const { return drawing_.getOdDbObjectId(values_.get<OdDbHandle>(key)); }
+
+    // The item of a list of values; throws OdError_InvalidIndex outside it.
+    template <class Item>
+    static const Item& at(const std::vector<Item>& items, int index)
+    {
+        if (index < 0 || static_cast<std::size_t>(index) >= items.size())
+        {
+            throw OdError_InvalidIndex();
+        }
+        return items[static_cast<std::size_t>(index)];
+    }
+
+    Drawing& drawing_;
+    OdDbHandle handle_;
+    const OdRxClass* class_;
+    ObjectValues values_;
+};
+
+template <class Base>
+class Symbol : public Stored<Base>
+{
+public:
+    using Stored<Base>::Stored;
+    OdString getName() const override { return this->text("name"); }
+};
+
+class TextStyle final : public Symbol<OdDbTextStyleTableRecord>
+{
+public:
+    using Symbol::Symbol;
+    bool isShapeFile() const override { return flag("isShapeFile"); }
+    OdString fileName() const override { return text("fileName"); }
+};
+
+class View final : public Symbol<OdDbViewTableRecord>
+{
+public:
+    using Symbol::Symbol;
+    bool isPaperspaceView() const override { return flag("isPaperspaceView"); }
+};
+
+class Block final : public Symbol<OdDbBlockTableRecord>
+{
+public:
+    using Symbol::Symbol;
+    bool isLayout() const override { return flag("isLayout"); }
+    bool isFromExternalReference() const override { return flag("isFromExternalReference"); }
+    OdString comments() const override { return text("comments"); }
+    int blockScaling() const override { return integer("blockScaling"); }
+    bool explodable() const override { return flag("explodable"); }
+    int blockInsertUnits() const override { return integer("insertUnits"); }
+    OdArray<OdDbObjectId> entityIds() const override
+    {
+        OdArray<OdDbObjectId> ids;
+        for (const OdDbObjectId& entity : drawing_.presentIds(values_.get<HandleList>("entities")))
+        {
+            if (!entity.openObject()->isErased())
+            {
+                ids.append(entity);
+            }
+        }
+        return ids;
+    }
+};
+
+class Layout final : public Stored<OdDbLayout>
+{
+public:
+    using Stored::Stored;
+    OdString getLayoutName() const override { return text("name"); }
+    bool modelType() const override { return flag("modelType"); }
+    OdString getCurrentStyleSheet() const override { return text("printStyleSheet"); }
+};
+
+class MText final : public Stored<OdDbMText>
+{
+public:
+    using Stored::Stored;
+    OdString contents() const override { return text("contents"); }
+    double actualHeight() const override { return number("actualHeight"); }
+    bool useBackgroundColorOn() const override { return flag("useBackgroundColorOn"); }
+    OdCmColor getBackgroundFillColor() const override { return color("backgroundFillColor"); }
+    double getBackgroundScaleFactor() const override { return number("backgroundScaleFactor"); }
+};
+
+class Leader final : public Stored<OdDbLeader>
+{
+public:
+    using Stored::Stored;
+    OdDbObjectId annotationObjId() const override { return id("annotation"); }
+    double annoWidth() const override { return number("annoWidth"); }
+    AnnoType annoType() const override
+    {
+        if (const auto* type = values_.given<std::int32_t>("annoType"))
+        {
+            return static_cast<AnnoType>(*type);
+        }
+        const OdRxClass* annotation = drawing_.classOf(values_.get<OdDbHandle>("annotation"));
+        if (annotation == nullptr)
+        {
+            return kNoAnno;
+        }
+        return annotation->isDerivedFrom(OdDbMText::desc())            ? kMText
+               : annotation->isDerivedFrom(OdDbFcf::desc())            ? kFcf
+               : annotation->isDerivedFrom(OdDbBlockReference::desc()) ? kBlockRef
+                                                                       : kNoAnno;
+    }
+};
+
+class Tolerance final : public Stored<OdDbFcf>
+{
+public:
+    using Stored::Stored;
+
+    // Line -1 asks for all lines.
+    OdString getText(int line) const override
+    {
+        return line < 0 ? text("text") : text("text").section(QLatin1Char('\n'), line, line);
+    }
+};
+
+class RichLine final : public Stored<OdDbMline>
+{
+public:
+    using Stored::Stored;
+    int numVertices() const override { return static_cast<int>(vertices().size()); }
+    OdGePoint3d vertexAt(int index) const override { return at(vertices(), index); }
+    bool closedMline() const override { return flag("closedMline"); }
+
+private:
+    const PointList& vertices() const { return values_.get<PointList>("vertices"); }
+};
+
+class Table final : public Stored<OdDbTable>
+{
+public:
+    using Stored::Stored;
+    int numRows() const override { return static_cast<int>(rowHeights().size()); }
+    int numColumns() const override { return static_cast<int>(columnWidths().size()); }
+    double rowHeight(int row) const override { return at(rowHeights(), row); }
+    double columnWidth(int column) const override { return at(columnWidths(), column); }
+
+    // A cell for which the journal has no text is empty.
+    OdString textString(int row, int column) const override
+    {
+        const TextRows& cells = values_.get<TextRows>("cells");
+        if (row < 0 || column < 0 || static_cast<std::size_t>(row) >= cells.size() ||
+            static_cast<std::size_t>(column) >= cells[static_cast<std::size_t>(row)].size())
+        {
+            return {};
+        }
+        return cells[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)];
+    }
+
+private:
+    const NumberList& rowHeights() const { return values_.get<NumberList>("rowHeights"); }
+    const NumberList& columnWidths() const { return values_.get<NumberList>("columnWidths"); }
+};
+
+// The points that several dimension classes share.
+template <class Base>
+class WithExtensionLines : public Base
+{
+public:
+    using Base::Base;
+    OdGePoint3d xLine1Point() const override { return this->point("xLine1Point"); }
+    OdGePoint3d xLine2Point() const override { return this->point("xLine2Point"); }
+};
+
+template <class Base>
+class WithDimensionLine : public WithExtensionLines<Base>
+{
+public:
+    using WithExtensionLines<Base>::WithExtensionLines;
+    OdGePoint3d dimLinePoint() const override { return this->point("dimLinePoint"); }
+};
+
+template <class Base>
+class WithCenterAndArc : public WithExtensionLines<Base>
+{
+public:
+    using WithExtensionLines<Base>::WithExtensionLines;
+    OdGePoint3d centerPoint() const override { return this->point("centerPoint"); }
+    OdGePoint3d arcPoint() const override { return this->point("arcPoint"); }
+};
+
+template <class Base>
+class WithChord final : public Stored<Base>
+{
+public:
+    using Stored<Base>::Stored;
+    OdGePoint3d chordPoint() const override { return this->point("chordPoint"); }
+};
+
+class RotatedDimension final : public WithDimensionLine<Stored<OdDbRotatedDimension>>
+{
+public:
+    using WithDimensionLine::WithDimensionLine;
+    double rotation() const override { return number("rotation"); }
+};
+
+class TwoLineAngularDimension final : public Stored<OdDb2LineAngularDimension>
+{
+public:
+    using Stored::Stored;
+    OdGePoint3d xLine1Start() const override { return point("xLine1Start"); }
+    OdGePoint3d xLine1End() const override { return point("xLine1End"); }
+    OdGePoint3d xLine2Start() const override { return point("xLine2Start"); }
+    OdGePoint3d xLine2End() const override { return point("xLine2End"); }
+    OdGePoint3d arcPoint() const override { return point("arcPoint"); }
+};
+
+class ArcDimension final : public WithCenterAndArc<Stored<OdDbArcDimension>>
+{
+public:
+    using WithCenterAndArc::WithCenterAndArc;
+    bool isPartial() const override { return flag("isPartial"); }
+};
+
+class OrdinateDimension final : public Stored<OdDbOrdinateDimension>
+{
+public:
+    using Stored::Stored;
+    OdGePoint3d definingPoint() const override { return point("definingPoint"); }
+    OdGePoint3d leaderEndPoint() const override { return point("leaderEndPoint"); }
+    bool isUsingXAxis() const override { return flag("isUsingXAxis"); }
+    OdGePoint3d origin() const override { return point("origin"); }
+};
+
+using Factory = OdDbObjectPtr (*)(Drawing&, OdDbHandle, const OdRxClass*, ObjectValues);
+using FactoryTable = std::unordered_map<const OdRxClass*, Factory>;
+
+template <class Object>
+OdDbObjectPtr make(Drawing& drawing, OdDbHandle handle, const OdRxClass* objectClass, ObjectValues values)
+{
+    return OdSmartPtr<Object>::make(drawing, handle, objectClass, std::move(values));
+}
+
+// Classes without getters of their own.
+template <class... Bases>
+void addPlain(FactoryTable& table)
+{
+    (table.emplace(Bases::desc(), &make<Stored<Bases>>), ...);
+}
+
+// Records with nothing but a name.
+template <class... Bases>
+void addSymbols(FactoryTable& table)
+{
+    (table.emplace(Bases::desc(), &make<Symbol<Bases>>), ...);
+}
+
+template <class... Objects>
+void addOwn(FactoryTable& table)
+{
+    (table.emplace(Objects::desc(), &make<Objects>), ...);
+}
+
+FactoryTable allFactories()
+{
+    FactoryTable table;
+    addPlain<OdDbObject, OdDbEntity, OdDbCurve, OdDbLine, OdDbCircle, OdDbArc, OdDbEllipse, OdDbPoint, OdDbRay,
+             OdDbXline, OdDbPolyline, OdDb2dPolyline, OdDb3dPolyline, OdDbSpline, OdDbPolygonMesh, OdDbPolyFaceMesh,
+             OdDbFace, OdDbSolid, OdDbTrace, OdDbText, OdDbAttributeDefinition, OdDbBlockReference, OdDbRasterImage,
+             OdDbShape, OdDbViewport, OdDbHatch, OdDbRegion, OdDbOle2Frame, OdDbDimension, OdDbRadialDimensionLarge,
+             OdDbMlineStyle, OdDbTableStyle, OdDbGroup>(table);
+    addSymbols<OdDbSymbolTableRecord, OdDbLayerTableRecord, OdDbLinetypeTableRecord, OdDbDimStyleTableRecord,
+               OdDbViewportTableRecord>(table);
+    addOwn<TextStyle, View, Block, Layout, MText, Leader, Tolerance, RichLine, Table, RotatedDimension,
+           TwoLineAngularDimension, ArcDimension, OrdinateDimension, WithChord<OdDbDiametricDimension>,
+           WithChord<OdDbRadialDimension>, WithDimensionLine<Stored<OdDbAlignedDimension>>,
+           WithCenterAndArc<Stored<OdDb3PointAngularDimension>>>(table);
+    return table;
+}
+} // namespace
+
+OdDbObjectPtr MakeStoredObject(Drawing& drawing, OdDbHandle handle, const OdRxClass* objectClass, ObjectValues values)
+{
+    static const FactoryTable factories = allFactories();
+    // A class without a C++ type of its own is an object of the nearest one above it.
+    const OdRxClass* level = objectClass;
+    auto factory = factories.find(level);
+    while (factory == factories.end())
+    {
+        level = level->myParent();
+        factory = factories.find(level);
+    }
+    return factory->second(drawing, handle, objectClass, std::move(values));
+}
+} // namespace kv
