@@ -202,6 +202,10 @@ private:
     [[nodiscard]] QString HatchByPolyline(const QString& target, const OdArray<double>& bulges,
                                           const OdArray<OdGePoint2d>& points, const HatchPattern& pattern, bool erase);
 
+    // The handler of a custom action; null for a number that has none.
+    using ActionHandler = ResultCode (CZtConverterKVAPIImpl::*)(const CZtCustomAction&, QString&);
+    [[nodiscard]] static ActionHandler HandlerOf(std::int32_t actionId);
+
     ConversionCounters counters_;
     std::int32_t recordingMode_;
     std::unique_ptr<CZtConverterKVAPIObject> objectConverter_;

@@ -4,6 +4,8 @@
 #include "core/escape.h"
 #include "objects/object_converter.h"
 
+#include <span>
+
 namespace
 {
 

@@ -5,6 +5,8 @@
 #include "core/logic_counters.h"
 #include "objects/object_converter.h"
 
+#include <cmath>
+
 LogicCounters& LogicCounters::OfProcess()
 {
     static LogicCounters counters;

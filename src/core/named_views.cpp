@@ -6,6 +6,8 @@
 #include "host/kernel/services.h"
 #include "objects/object_converter.h"
 
+#include <cmath>
+
 #include <QtCore/QCoreApplication>
 
 namespace

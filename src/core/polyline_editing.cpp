@@ -5,6 +5,8 @@
 #include "host/kernel/services.h"
 #include "objects/object_converter.h"
 
+#include <cmath>
+
 namespace
 {
 

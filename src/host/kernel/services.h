@@ -13,7 +13,7 @@ class KVHOST_API CZtDatabase : public OdDbDatabase
     ODRX_DECLARE_MEMBERS(CZtDatabase)
 
     // The group of a name in the drawing's dictionary of groups; null when there is none.
-    [[nodiscard]] virtual OdDbObjectId getGroupId(const OdString& name) const = 0;
+    [[nodiscard]] virtual OdDbObjectId getGroupId(const OdString& name) = 0;
 
     // The values that fillet and chamfer use: lengths in drawing units, the angle in radians.
     [[nodiscard]] virtual double filletRadius() const = 0;
