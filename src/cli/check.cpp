@@ -17,9 +17,7 @@ int Check(const std::vector<std::string>& commandLine)
 {
     const HeldSignals signals;
     const Staging staging({std::filesystem::temp_directory_path()});
-    std::vector<std::string> arguments = commandLine;
-    arguments.insert(arguments.begin() + 2, "--staged=" + staging.Folder().string());
-    return signals.RunSelf(arguments);
+    return signals.RunSelf(commandLine, staging.Folder());
 }
 
 int CheckStaged(const CheckOptions& options)

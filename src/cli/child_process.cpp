@@ -3,6 +3,7 @@
 
 #include "cli/failure.h"
 
+#include <array>
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
@@ -18,6 +19,7 @@ namespace kv::cli
 namespace
 {
 
+constexpr std::array interrupting{SIGINT, SIGTERM, SIGHUP};
 constexpr const char* ownFile = "/proc/self/exe";
 
 int WaitForEnd(pid_t child)
@@ -58,7 +60,7 @@ HeldSignals::HeldSignals()
 {
     std::signal(SIGCHLD, SIG_DFL); // ignored, the end of the process could not be waited for
     sigemptyset(&interruptions_);
-    for (const int signal : {SIGINT, SIGTERM, SIGHUP})
+    for (const int signal : interrupting)
     {
         struct sigaction action = {};
         sigaction(signal, nullptr, &action);
@@ -87,8 +89,21 @@ void HeldSignals::ThrowIfInterrupted() const
     }
 }
 
-int HeldSignals::RunSelf(const std::vector<std::string>& arguments) const
+void HeldSignals::Ignore() const
 {
+    for (const int signal : interrupting)
+    {
+        std::signal(signal, SIG_IGN); // discards those that wait, too
+    }
+}
+
+int HeldSignals::RunSelf(const std::vector<std::string>& commandLine, const std::filesystem::path& folder,
+                         const std::vector<std::string>& more) const
+{
+    std::vector<std::string> arguments{commandLine.at(0), commandLine.at(1), "--staged=" + folder.string(),
+                                       "--staged-by=" + std::to_string(getpid())};
+    arguments.insert(arguments.end(), more.begin(), more.end());
+    arguments.insert(arguments.end(), commandLine.begin() + 2, commandLine.end());
     const pid_t child = Start(arguments, previous_);
     sigset_t awaited = interruptions_;
     sigaddset(&awaited, SIGCHLD);
@@ -112,9 +127,13 @@ int HeldSignals::RunSelf(const std::vector<std::string>& arguments) const
     return WEXITSTATUS(status);
 }
 
-void EndWithParent()
+void EndWithParent(int parent)
 {
     prctl(PR_SET_PDEATHSIG, SIGKILL);
+    if (getppid() != parent) // it was killed before the line above
+    {
+        std::_Exit(128 + SIGKILL);
+    }
 }
 
 void EndBySignal(int signal)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <csignal>
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -27,18 +28,23 @@ public:
     // Throws Interrupted when one of them has come.
     void ThrowIfInterrupted() const;
 
-    // Runs this program with the arguments, the first being its own name, and waits for its end. Gives its exit status;
-    // throws Failure when it can't be started or ends by a signal, Interrupted, with the process ended, when a signal
-    // comes first.
-    [[nodiscard]] int RunSelf(const std::vector<std::string>& arguments) const;
+    // From now on they change nothing: the work is done, and the exit status has to say so.
+    void Ignore() const;
+
+    // Runs this program with its command line and more options, among them the folder in which that process is to work
+    // (--staged), and waits for its end. Gives its exit status; throws Failure when it can't be started or ends by a
+    // signal, Interrupted, with the process ended, when a signal comes first.
+    [[nodiscard]] int RunSelf(const std::vector<std::string>& commandLine, const std::filesystem::path& folder,
+                              const std::vector<std::string>& more = {}) const;
 
 private:
     sigset_t interruptions_;
     sigset_t previous_;
 };
 
-// To be called by a process that RunSelf started: it ends when the process that started it does.
-void EndWithParent();
+// To be called by a process that RunSelf started, with the number of the process that did: it ends when that one does,
+// and at once when that one is gone.
+void EndWithParent(int parent);
 
 // Ends the program as the signal would have done.
 [[noreturn]] void EndBySignal(int signal);

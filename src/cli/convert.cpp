@@ -87,15 +87,12 @@ int RunJob(const Job& job, const HeldSignals& signals, const std::vector<std::st
     {
         throw SystemFailure(job.staged.string(), error.value());
     }
-    std::vector<std::string> arguments = commandLine;
-    std::vector<std::string> added{"--staged=" + job.staged.string(),
-                                   "--staged-language=" + std::string(job.language->word)};
+    std::vector<std::string> more{std::string("--staged-language=") + job.language->word};
     if (!first)
     {
-        added.emplace_back("--without-remarks");
+        more.emplace_back("--without-remarks");
     }
-    arguments.insert(arguments.begin() + 2, added.begin(), added.end()); // behind the program's and the command's names
-    return signals.RunSelf(arguments);
+    return signals.RunSelf(commandLine, job.staged, more);
 }
 
 } // namespace
@@ -133,6 +130,7 @@ int Convert(const ConvertOptions& options, const std::vector<std::string>& comma
         signals.ThrowIfInterrupted();
         MoveInPlace(moves, options.force, backups);
         parents.Keep();
+        signals.Ignore();
     }
     for (const Move& move : moves)
     {

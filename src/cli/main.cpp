@@ -29,12 +29,13 @@ void ChooseFileNameCodec()
 
 int Run(const ConvertOptions& options, const std::vector<std::string>& commandLine)
 {
-    return options.stagedFolder.empty() ? Convert(options, commandLine) : (EndWithParent(), ConvertStaged(options));
+    return options.stagedFolder.empty() ? Convert(options, commandLine)
+                                        : (EndWithParent(options.stagedBy), ConvertStaged(options));
 }
 
 int Run(const CheckOptions& options, const std::vector<std::string>& commandLine)
 {
-    return options.stagedFolder.empty() ? Check(commandLine) : (EndWithParent(), CheckStaged(options));
+    return options.stagedFolder.empty() ? Check(commandLine) : (EndWithParent(options.stagedBy), CheckStaged(options));
 }
 
 int Run(int status, const std::vector<std::string>&)

@@ -62,6 +62,7 @@ void AddCommonOptions(CLI::App& command, CommonOptions& options, bool withAll)
         ->option_text("FILE");
     // What the program tells the processes of its own that convert; an empty group keeps them out of the help.
     command.add_option("--staged", options.stagedFolder)->group("");
+    command.add_option("--staged-by", options.stagedBy)->group("");
     command.add_option("--staged-language", options.stagedLanguage)->group("");
     command.add_flag("--without-remarks", options.withoutRemarks)->group("");
 }

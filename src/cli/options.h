@@ -20,6 +20,7 @@ struct CommonOptions
     std::optional<std::int32_t> mode;   // the recording mode in place of the journal's
     std::string module;                 // the module file; empty for the one beside the program
     std::filesystem::path stagedFolder; // not empty in the process that converts: where it writes
+    int stagedBy = 0;                   // the process that started that process
     std::string stagedLanguage;         // the language of that process when all are asked for
     bool withoutRemarks = false;        // another process already told the remarks
 };

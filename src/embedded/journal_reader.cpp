@@ -5,6 +5,8 @@
 #include "embedded/line_source.h"
 #include "embedded/object_reader.h"
 
+#include <algorithm>
+
 namespace kv
 {
 namespace
@@ -14,6 +16,36 @@ constexpr std::int32_t FormatVersion = 1;
 bool isBlank(const LineSource::Line& line)
 {
     return std::string_view(line.data, line.size).find_first_not_of(" \t\r") == std::string_view::npos;
+}
+
+// The line with a fraction behind every integer that has too many digits for the parser, which takes reals of any
+// length; the value is the same. Padded for the parser.
+simdjson::padded_string withLongIntegersAsReals(std::string_view line)
+{
+    constexpr std::size_t mostDigits = 18;
+    std::string result;
+    bool inText = false;
+    std::size_t place = 0;
+    while (place < line.size())
+    {
+        const char character = line[place];
+        const std::size_t digits =
+            inText ? 0 : std::min(line.find_first_not_of("0123456789", place), line.size()) - place;
+        const bool escape = inText && character == '\\';
+        const std::size_t taken = digits > 0 ? digits : std::min<std::size_t>(escape ? 2 : 1, line.size() - place);
+        result += line.substr(place, taken);
+        place += taken;
+        inText = inText != (character == '"');
+        // Digits behind a point or an exponent are no integer, and those before one have their fraction.
+        const char before = taken < result.size() ? result[result.size() - taken - 1] : ' ';
+        const char after = place < line.size() ? line[place] : ' ';
+        if (digits > mostDigits && std::string_view(".eE+").find(before) == std::string_view::npos &&
+            std::string_view(".eE").find(after) == std::string_view::npos)
+        {
+            result += ".0";
+        }
+    }
+    return simdjson::padded_string(result);
 }
 
 QVariant readSetting(const JsonNode& node)
@@ -51,6 +83,7 @@ public:
     void readAll(LineSource& lines);
 
 private:
+    void skipByteOrderMark(LineSource::Line& line) const;
     void readLine(const LineSource::Line& line);
     void readRecord(const JsonNode& node);
     void readHead(const JsonNode& node);
@@ -81,6 +114,7 @@ void JournalReader::readAll(LineSource& lines)
     while (lines.next(line))
     {
         ++lineNumber_;
+        skipByteOrderMark(line);
         if (!isBlank(line))
         {
             readLine(line);
@@ -94,11 +128,25 @@ void JournalReader::readAll(LineSource& lines)
     finish();
 }
 
+void JournalReader::skipByteOrderMark(LineSource::Line& line) const
+{
+    constexpr std::string_view mark = "\xEF\xBB\xBF";
+    if (lineNumber_ == 1 && std::string_view(line.data, line.size).substr(0, mark.size()) == mark)
+    {
+        line.data += mark.size();
+        line.size -= mark.size();
+    }
+}
+
 void JournalReader::readLine(const LineSource::Line& line)
 {
     simdjson::dom::element element;
     // The source keeps enough bytes behind the line.
-    const simdjson::error_code error = parser_.parse(line.data, line.size, false).get(element);
+    simdjson::error_code error = parser_.parse(line.data, line.size, false).get(element);
+    if (error == simdjson::NUMBER_ERROR)
+    {
+        error = parser_.parse(withLongIntegersAsReals({line.data, line.size})).get(element);
+    }
     if (error != simdjson::SUCCESS)
     {
         if (line.ended)

@@ -6,6 +6,7 @@
 #include "host/db/curves.h"
 #include "host/db/dimensions.h"
 #include "host/db/text.h"
+#include "host/kernel/services.h"
 #include "objects/variant_readers.h"
 
 CZtConverterKVAPIImpl& CZtConverterKVAPIObject::Converter() const

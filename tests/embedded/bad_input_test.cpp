@@ -1,5 +1,5 @@
 // Which lines the reader refuses, where it says so, and in which words.
-#include "embedded/journal_text.h"
+#include "journal_text.h"
 
 namespace kv::testing
 {

@@ -1,5 +1,5 @@
 // The drawing that a journal describes: every class and key, defaults, ids, layouts.
-#include "embedded/journal_text.h"
+#include "journal_text.h"
 
 #include "host/db/blocks.h"
 #include "host/db/dimensions.h"

@@ -1,5 +1,5 @@
 // Events, their order and lines, files that were cut off, values in all their forms.
-#include "embedded/journal_text.h"
+#include "journal_text.h"
 
 #include "host/db/object.h"
 
@@ -142,6 +142,27 @@ TEST(JournalReader, LinesOfAnyLengthAndLineEndAreRead)
     ASSERT_EQ(session->Journal().size(), 6U);
     EXPECT_EQ(session->Journal()[5]->isA()->name().size(), static_cast<int>(large.size()));
     EXPECT_EQ(session->LineOf(*session->Journal()[5]), 10);
+}
+
+TEST(JournalReader, NumbersOfAnyLengthAreReals)
+{
+    EXPECT_EQ(variantOf("123456789012345678901234567890").GetDouble(), 123456789012345678901234567890.0);
+    EXPECT_EQ(variantOf("-99999999999999999999").GetDouble(), -1e20);
+    EXPECT_EQ(variantOf(R"({"element":{"tag":"\"12345678901234567890123","value":123456789012345678901234e2}})")
+                  .GetCollectionElement()
+                  ->GetTag()
+                  ->GetString()
+                  .text(),
+              QLatin1String("\"12345678901234567890123"));
+    EXPECT_EQ(variantOf("0.1234567890123456789012345").GetDouble(), 0.1234567890123456789012345);
+    EXPECT_EQ(FaultsOf(Head + "\n{\"action\":{\"id\":99999999999999999999999,\"data\":[]}}").faultCount, 1);
+    EXPECT_EQ(FaultsOf(Head + "\n{\"sysvar\":{\"name\":\"A\",\"value\":1e999}}\n").faultCount, 1);
+}
+
+TEST(JournalReader, AByteOrderMarkIsNoPartOfTheFirstLine)
+{
+    EXPECT_EQ(FaultsOf("\xEF\xBB\xBF" + Head).faultCount, 0);
+    EXPECT_EQ(FaultsOf(Head + "\n\xEF\xBB\xBF" + Head + "\n").faultCount, 1);
 }
 
 TEST(JournalReader, PropertyValuesHaveTheirTypes)

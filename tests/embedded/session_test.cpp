@@ -1,5 +1,5 @@
 // The session as the host of the module: collection of properties, settings, words, registration.
-#include "embedded/journal_text.h"
+#include "journal_text.h"
 
 #include "host/db/symbols.h"
 

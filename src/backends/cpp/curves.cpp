@@ -1,5 +1,6 @@
 // C++ API texts of curves and points; the logic stands in objects/curves.cpp.
 #include "backends/cpp/object.h"
+#include "backends/text/coordinate_locals.h"
 
 using kv::Fixed;
 
@@ -77,9 +78,9 @@ QString CZtConverterKVAPIObjectCPP::WriteSetPointProperty(const QString& variabl
 QString CZtConverterKVAPIObjectCPP::WriteSetPosition(const QString& variable, Axis axis, double value)
 {
     const std::int32_t number = NextLocalNumber();
-    QString text = DeclareCoordinates(number);
+    QString text = kv::DeclareCoordinates(CurrentIndent(), number);
     text += Statement("%1%3->GetPosition( &getX%4, &getY%4, &getZ%4);%2", variable, number);
-    text += AssignCoordinate(axis, value, number);
+    text += kv::AssignCoordinate(CurrentIndent(), axis, value, number);
     text += Statement("%1%3->SetPosition( getX%4, getY%4, getZ%4 );%2", variable, number);
     return text;
 }
@@ -87,9 +88,9 @@ QString CZtConverterKVAPIObjectCPP::WriteSetPosition(const QString& variable, Ax
 QString CZtConverterKVAPIObjectCPP::WriteSetFirstPoint(const QString& variable, Axis axis, double value)
 {
     const std::int32_t number = NextLocalNumber();
-    QString text = DeclareCoordinates(number);
+    QString text = kv::DeclareCoordinates(CurrentIndent(), number);
     text += Statement("%1%3->GetFirstPoint( &getX%4, &getY%4, &getZ%4);%2", variable, number);
-    text += AssignCoordinate(axis, value, number);
+    text += kv::AssignCoordinate(CurrentIndent(), axis, value, number);
     text += Statement("%1%3->SetFirstPoint( getX%4, getY%4, getZ%4 );%2", variable, number);
     return text;
 }
@@ -97,22 +98,9 @@ QString CZtConverterKVAPIObjectCPP::WriteSetFirstPoint(const QString& variable, 
 QString CZtConverterKVAPIObjectCPP::WriteSetSecondPoint(const QString& variable, Axis axis, double value)
 {
     const std::int32_t number = NextLocalNumber();
-    QString text = DeclareCoordinates(number);
+    QString text = kv::DeclareCoordinates(CurrentIndent(), number);
     text += Statement("%1%3->GetSecondPoint( &getX%4, &getY%4, &getZ%4);%2", variable, number);
-    text += AssignCoordinate(axis, value, number);
+    text += kv::AssignCoordinate(CurrentIndent(), axis, value, number);
     text += Statement("%1%3->SetSecondPoint( getX%4, getY%4, getZ%4 );%2", variable, number);
     return text;
-}
-
-QString CZtConverterKVAPIObjectCPP::DeclareCoordinates(std::int32_t number)
-{
-    QString text = Statement("%1double getX%3;%2", number);
-    text += Statement("%1double getY%3;%2", number);
-    text += Statement("%1double getZ%3;%2", number);
-    return text;
-}
-
-QString CZtConverterKVAPIObjectCPP::AssignCoordinate(Axis axis, double value, std::int32_t number)
-{
-    return Statement("%1%3%5 = %4;%2", QLatin1String("get") + QLatin1String(AxisName(axis)), Fixed{value}, number);
 }

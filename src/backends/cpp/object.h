@@ -19,8 +19,4 @@ private:
     // Pieces of the backgrounds of views.
     [[nodiscard]] QString BackgroundHead(std::int32_t number, const QString& variable);
     [[nodiscard]] QString BackgroundColor(std::int32_t number, int index, const OdCmColor& color);
-
-    // The locals of a point whose one coordinate changes.
-    [[nodiscard]] QString DeclareCoordinates(std::int32_t number);
-    [[nodiscard]] QString AssignCoordinate(Axis axis, double value, std::int32_t number);
 };

@@ -1,9 +1,7 @@
 // The files of the add-in project around a C++ API macro.
 #include "backends/cpp/converter.h"
+#include "backends/text/project_folder.h"
 #include "core/macro_name.h"
-
-#include <QtCore/QDir>
-#include <QtCore/QFileInfo>
 
 QString CZtConverterKVAPICPP::WriteGlobalHeaderFile(const QString& macroName)
 {
@@ -134,19 +132,12 @@ QString CZtConverterKVAPICPP::WriteModuleDefinition(const QString& macroName)
 
 ResultCode CZtConverterKVAPICPP::WriteProjectFiles(const QString& outputPath)
 {
-    const QString folder = QFileInfo(outputPath).path();
-    if (!QDir(folder).exists() && !QDir().mkpath(folder))
-    {
-        return ResultError;
-    }
     const QString name = MakeMacroName(outputPath);
-    const QString prefix = folder + QLatin1String("//");
-    const bool written =
-        WriteTextFile(prefix + QLatin1String("KvAddin_global.h"), WriteGlobalHeaderFile(name), true) &&
-        WriteTextFile(prefix + name + QLatin1String(".vcproj"), WriteProjectFile(name), false) &&
-        WriteTextFile(prefix + QLatin1String("kvAddinConnection.h"), WriteConnectionHeader(name), true) &&
-        WriteTextFile(prefix + QLatin1String("kvAddinConnection.cpp"), WriteConnectionSource(name), true) &&
-        WriteTextFile(prefix + name + QLatin1String(".h"), WriteCommandHeader(), true) &&
-        WriteTextFile(prefix + name + QLatin1String(".def"), WriteModuleDefinition(name), false);
-    return written ? ResultNormal : ResultError;
+    return kv::WriteProjectFolder(outputPath,
+                                  {{QStringLiteral("KvAddin_global.h"), WriteGlobalHeaderFile(name), true},
+                                   {name + QLatin1String(".vcproj"), WriteProjectFile(name), false},
+                                   {QStringLiteral("kvAddinConnection.h"), WriteConnectionHeader(name), true},
+                                   {QStringLiteral("kvAddinConnection.cpp"), WriteConnectionSource(name), true},
+                                   {name + QLatin1String(".h"), WriteCommandHeader(), true},
+                                   {name + QLatin1String(".def"), WriteModuleDefinition(name), false}});
 }

@@ -24,4 +24,14 @@ QString LibraryPath()
     return PathBelow(QString::fromStdU16String(GetInstallDir()), "APISDK\\lib\\cpp");
 }
 
+QString AddinTypeLibraryPath()
+{
+    return PathBelow(QString::fromStdU16String(GetInstallDir()), "APISDK\\tlb\\kvAddin.tlb");
+}
+
+QString AutomationLibraryPath()
+{
+    return PathBelow(QString::fromStdU16String(GetInstallDir()), "bin\\kvAutomation.dll");
+}
+
 } // namespace kv

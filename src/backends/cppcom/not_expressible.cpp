@@ -1,0 +1,29 @@
+// What C++ COM leaves unsaid.
+#include "backends/cppcom/converter.h"
+#include "backends/cppcom/object.h"
+
+QString CZtConverterKVAPICPPCOM::WriteComment(const QString& /*text*/)
+{
+    return {};
+}
+
+QString CZtConverterKVAPICPPCOM::WriteCommentBlockSeparator()
+{
+    return {};
+}
+
+// The project exports by its module definition.
+QString CZtConverterKVAPICPPCOM::WriteGlobalHeaderFile(const QString& /*macroName*/)
+{
+    return {};
+}
+
+QString CZtConverterKVAPIObjectCPPCOM::WriteObjectAddedEnd()
+{
+    return {};
+}
+
+QString CZtConverterKVAPIObjectCPPCOM::WriteObjectModifiedEnd()
+{
+    return {};
+}

@@ -1,0 +1,14 @@
+// C#: the object side.
+#pragma once
+
+#include "backends/text/text_operations.h"
+
+class CZtConverterKVAPIObjectCSharp final : public kv::ObjectText
+{
+public:
+    explicit CZtConverterKVAPIObjectCSharp(CZtConverterKVAPIImpl* converter);
+
+#define OPERATION(result, name, parameters) [[nodiscard]] result name parameters override;
+#include "objects/object_operations.def"
+#undef OPERATION
+};

@@ -1,0 +1,21 @@
+// JavaScript: the object side.
+#pragma once
+
+#include "backends/text/text_operations.h"
+
+class CZtConverterKVAPIObjectJavaScript final : public kv::ObjectText
+{
+public:
+    explicit CZtConverterKVAPIObjectJavaScript(CZtConverterKVAPIImpl* converter);
+
+#define OPERATION(result, name, parameters) [[nodiscard]] result name parameters override;
+#include "objects/object_operations.def"
+#undef OPERATION
+
+private:
+    // Reads a point through the getter, changes one member of it and writes it through the setter.
+    [[nodiscard]] QString SetPointMember(const QString& variable, Axis axis, const QString& getter,
+                                         const QString& setter, double value);
+    [[nodiscard]] QString SetVertexMember(const QString& variable, Axis axis, const QString& getter,
+                                          const QString& setter, double value, std::int32_t index);
+};

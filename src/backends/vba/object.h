@@ -1,0 +1,19 @@
+// VBA: the object side.
+#pragma once
+
+#include "backends/text/basic_operations.h"
+
+class CZtConverterKVAPIObjectVba final : public kv::BasicObjectText
+{
+public:
+    explicit CZtConverterKVAPIObjectVba(CZtConverterKVAPIImpl* converter);
+
+#define OPERATION(result, name, parameters) [[nodiscard]] result name parameters override;
+#include "objects/object_operations.def"
+#undef OPERATION
+
+private:
+    // Numbers the locals of WriteSetPointProperty, which can be declared once in
+    // the procedure.
+    std::int32_t pointProperties_ = 0;
+};

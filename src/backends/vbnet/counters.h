@@ -1,0 +1,16 @@
+// The counters that operations of VB.NET keep for the whole process, over all conversions. A test may start from
+// a known state by assigning a new value; nothing else resets them.
+#pragma once
+
+struct VbNetCounters
+{
+    int WriteGetLayer = 0;
+    int WriteSetTransparency = 0;
+    int WriteSetHyperLink = 0;
+
+    [[nodiscard]] static VbNetCounters& OfProcess()
+    {
+        static VbNetCounters counters;
+        return counters;
+    }
+};

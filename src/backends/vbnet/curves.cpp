@@ -1,0 +1,105 @@
+// VB.NET texts of curves and points; the logic stands in objects/curves.cpp.
+#include "backends/vbnet/object.h"
+
+using kv::Fixed;
+
+QString CZtConverterKVAPIObjectVbNet::WriteInsertLine(const QString& variable, const OdGePoint3d& start,
+                                                      const OdGePoint3d& end)
+{
+    return Statement("%1%9 = kvSketchManager.InsertLine( %3, %4, %5, %6, %7, %8 )%2", start, end, variable);
+}
+
+QString CZtConverterKVAPIObjectVbNet::WriteInsertCircle(const QString& variable, const OdGePoint3d& center,
+                                                        double radius)
+{
+    return Statement("%1%7 = kvSketchManager.InsertCircle( %3, %4, %5, %6 )%2", center, Fixed{radius}, variable);
+}
+
+QString CZtConverterKVAPIObjectVbNet::WriteInsertPoint(const QString& variable, const OdGePoint3d& position)
+{
+    return Statement("%1%6 = kvSketchManager.InsertPoint( %3, %4, %5 )%2", position, variable);
+}
+
+QString CZtConverterKVAPIObjectVbNet::WriteInsertRay(const QString& variable, const OdGePoint3d& base,
+                                                     const OdGePoint3d& second)
+{
+    return Statement("%1%9 = kvSketchManager.InsertRay( %3, %4, %5, %6, %7, %8 )%2", base, second, variable);
+}
+
+QString CZtConverterKVAPIObjectVbNet::WriteInsertArc(const QString& variable, const OdGePoint3d& center, double radius,
+                                                     double startAngle, double endAngle)
+{
+    return Statement("%1%9 = kvSketchManager.InsertArc( %3, %4, %5, %6, %7, %8 )%2", center, Fixed{radius},
+                     Fixed{startAngle}, Fixed{endAngle}, variable);
+}
+
+QString CZtConverterKVAPIObjectVbNet::WriteInsertInfiniteLine(const QString& variable, const OdGePoint3d& base,
+                                                              const OdGePoint3d& second)
+{
+    return Statement("%1%9 = kvSketchManager.InsertInfiniteLine( %3, %4, %5, %6, %7, %8 )%2", base, second, variable);
+}
+
+QString CZtConverterKVAPIObjectVbNet::WriteInsertEllipse(const QString& variable, const OdGePoint2d& major1,
+                                                         const OdGePoint2d& major2, double distance)
+{
+    return Statement("%1%8 = kvSketchManager.InsertEllipseDistanceToOtherAxis( %3, %4, %5, %6, %7 )%2", major1, major2,
+                     Fixed{distance}, variable);
+}
+
+QString CZtConverterKVAPIObjectVbNet::WriteInsertEllipseArc(const QString& variable, const OdGePoint2d& major1,
+                                                            const OdGePoint2d& major2, double distance,
+                                                            double startAngle, double endAngle)
+{
+    return Statement("%1%10 = kvSketchManager.InsertEllipseArcDistanceToOtherAxis( %3, %4, %5, %6, %7, %8, %9 )%2",
+                     major1, major2, Fixed{distance}, Fixed{startAngle}, Fixed{endAngle}, variable);
+}
+
+QString CZtConverterKVAPIObjectVbNet::WriteSetPointProperty(const QString& variable, Axis axis, const QString& getter,
+                                                            const QString& setter, double value, std::int32_t index)
+{
+    const std::int32_t number = NextLocalNumber();
+    QString text = Statement("%1Dim X%3 As Double%2", number);
+    text += Statement("%1Dim Y%3 As Double%2", number);
+    text += Statement("%1Dim Z%3 As Double%2", number);
+    if (index < 0)
+    {
+        text += Line("%1%2.%3( X%5, Y%5, Z%5 )%4", variable, getter, kv::LineEnd(), number);
+        text += Line("%1%2%5 = %3%4", AxisName(axis), Fixed{value}, kv::LineEnd(), number);
+        text += Line("%1%2.%3( X%5, Y%5, Z%5 )%4", variable, setter, kv::LineEnd(), number);
+        return text;
+    }
+    text += Line("%1%2.%3( %4, X%6, Y%6, Z%6 )%5", variable, getter, index, kv::LineEnd(), number);
+    text += Line("%1%2%5 = %3%4", AxisName(axis), Fixed{value}, kv::LineEnd(), number);
+    text += Line("%1%2.%3( %4, X%6, Y%6, Z%6 )%5", variable, setter, index, kv::LineEnd(), number);
+    return text;
+}
+
+QString CZtConverterKVAPIObjectVbNet::WriteSetPosition(const QString& variable, Axis axis, double value)
+{
+    const std::int32_t number = NextLocalNumber();
+    QString text = DeclareCoordinates(number);
+    text += Statement("%1%3.GetPosition( getX%4, getY%4, getZ%4)%2", variable, number);
+    text += AssignCoordinate(axis, value, number);
+    text += Statement("%1%3.SetPosition( getX%4, getY%4, getZ%4 )%2", variable, number);
+    return text;
+}
+
+QString CZtConverterKVAPIObjectVbNet::WriteSetFirstPoint(const QString& variable, Axis axis, double value)
+{
+    const std::int32_t number = NextLocalNumber();
+    QString text = DeclareCoordinates(number);
+    text += Statement("%1%3.GetFirstPoint( getX%4, getY%4, getZ%4)%2", variable, number);
+    text += AssignCoordinate(axis, value, number);
+    text += Statement("%1%3.SetFirstPoint( getX%4, getY%4, getZ%4 )%2", variable, number);
+    return text;
+}
+
+QString CZtConverterKVAPIObjectVbNet::WriteSetSecondPoint(const QString& variable, Axis axis, double value)
+{
+    const std::int32_t number = NextLocalNumber();
+    QString text = DeclareCoordinates(number);
+    text += Statement("%1%3.GetSecondPoint( getX%4, getY%4, getZ%4)%2", variable, number);
+    text += AssignCoordinate(axis, value, number);
+    text += Statement("%1%3.SetSecondPoint( getX%4, getY%4, getZ%4 )%2", variable, number);
+    return text;
+}

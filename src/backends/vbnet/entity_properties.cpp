@@ -1,0 +1,93 @@
+// VB.NET texts of the properties that all entities share; the logic stands in objects/entity_properties.cpp.
+#include "backends/text/color_expression.h"
+#include "backends/text/enumerations.h"
+#include "backends/vbnet/counters.h"
+#include "backends/vbnet/object.h"
+
+using kv::Fixed;
+
+QString CZtConverterKVAPIObjectVbNet::WriteSetBoolProperty(const QString& variable, const QString& word, bool value)
+{
+    return Statement("%1%3.%4 = %5%2", variable, word, FlagWord(value));
+}
+
+QString CZtConverterKVAPIObjectVbNet::WriteSetDoubleProperty(const QString& variable, const QString& word, double value)
+{
+    return Statement("%1%3.%4 = %5%2", variable, word, Fixed{value});
+}
+
+QString CZtConverterKVAPIObjectVbNet::WriteSetStringProperty(const QString& variable, const QString& word,
+                                                             const QString& text, bool quoted)
+{
+    return quoted ? Statement("%1%3.%4 = \"%5\"%2", variable, word, text)
+                  : Statement("%1%3.%4 = %5%2", variable, word, text);
+}
+
+QString CZtConverterKVAPIObjectVbNet::WriteSetColorProperty(const QString& variable, const QString& word,
+                                                            const OdCmColor& color)
+{
+    static_cast<void>(NextLocalNumber()); // taken in every language, though nothing is declared here
+    return Statement("%1%3.%4 = %5%2", variable, word, kv::ColorExpression(color));
+}
+
+QString CZtConverterKVAPIObjectVbNet::WriteSetLayerProperty(const QString& variable, const QString& layer)
+{
+    return Statement("%1%3.Layer = \"%4\"%2", variable, layer);
+}
+
+QString CZtConverterKVAPIObjectVbNet::WriteSetLineStyleProperty(const QString& variable, const QString& word,
+                                                                const QString& lineStyle)
+{
+    return Statement("%1%3.%4 = \"%5\"%2", variable, word, lineStyle);
+}
+
+QString CZtConverterKVAPIObjectVbNet::WriteSetLineWeightProperty(const QString& variable, const QString& word,
+                                                                 std::int32_t weight)
+{
+    return Statement("%1%3.%4 = %5%2", variable, word, kv::EntityLineWeight(kv::EnumForm::Morvane, weight));
+}
+
+QString CZtConverterKVAPIObjectVbNet::WriteSetTransparency(const QString& variable, OdCmTransparency::Method method,
+                                                           std::int32_t percent)
+{
+    const int number = VbNetCounters::OfProcess().WriteSetTransparency++;
+    QString setting;
+    switch (method)
+    {
+    case OdCmTransparency::Method::ByLayer:
+        setting = kv::Fill("kvTransparency%1.SetByLayer()", number);
+        break;
+    case OdCmTransparency::Method::ByBlock:
+        setting = kv::Fill("kvTransparency%1.SetByBlock()", number);
+        break;
+    case OdCmTransparency::Method::ByAlpha:
+        setting = kv::Fill("kvTransparency%1.SetByAlpha( %2 )", number, percent);
+        break;
+    }
+    return Statement("%1Dim kvTransparency%3 As Morvane.Transparency = %4.Transparency%2"
+                     "%1%5%2"
+                     "%1%4.Transparency = kvTransparency%3%2",
+                     number, variable, setting);
+}
+
+QString CZtConverterKVAPIObjectVbNet::WriteSetHyperLink(const QString& variable, const HyperLink& link)
+{
+    const int number = VbNetCounters::OfProcess().WriteSetHyperLink++;
+    QString text = Line("%1Dim hyperLink%3 As Morvane.HyperLink = %2.GetHyperLink()\n", variable, number);
+    text += Line("%1hyperLink%2.Description = \"%3\"\n", number, link.description);
+    // No line ends here; the format's. The next statement follows on the same line.
+    switch (link.kind)
+    {
+    case HyperLink::Kind::PlaceInThisDrawing:
+        text += Line("%1hyperLink%2.SetPlaceInThisDrawing( \"%3\")", number, link.target);
+        break;
+    case HyperLink::Kind::FileOrWebPage:
+        text += Line("%1hyperLink%2.SetFileOrWebPage( \"%3\", \"%3\")", number, link.target);
+        break;
+    case HyperLink::Kind::EmailAddress:
+        text += Line("%1hyperLink%2.SetEmailAddress( \"%3\", \"%4\")", number, link.target, link.subject);
+        break;
+    }
+    text += Line("%1%2.SetHyperLink(hyperLink%3)\n", variable, number);
+    return text;
+}
