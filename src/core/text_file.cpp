@@ -11,6 +11,14 @@ constexpr int PieceSize = 64 * 1024;
 
 TextFile::TextFile(const QString& path) : file_(path) {}
 
+TextFile::~TextFile()
+{
+    if (file_.isOpen())
+    {
+        Flush();
+    }
+}
+
 bool TextFile::Open(bool byteOrderMark)
 {
     if (!file_.open(QIODevice::WriteOnly | QIODevice::Text))

@@ -8,6 +8,11 @@ class TextFile
 public:
     explicit TextFile(const QString& path);
 
+    // Writes what is left to a file that is still open, as when an exception ends the conversion.
+    ~TextFile();
+    TextFile(const TextFile&) = delete;
+    TextFile& operator=(const TextFile&) = delete;
+
     // Opens the file for writing in text mode, an existing file being replaced, and writes the byte order mark when
     // asked for; false when the file can't be opened.
     [[nodiscard]] bool Open(bool byteOrderMark);

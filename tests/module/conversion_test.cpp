@@ -176,6 +176,23 @@ TEST_F(Conversion, TellsEveryEventAndText)
     EXPECT_EQ(log.events.front().text, log.texts.at(2).text);
 }
 
+TEST_F(Conversion, KeepsWhatItWroteWhenTheHostThrows)
+{
+    // The handle of the note is a line's.
+    Load(R"({"object":{"class":"AcDbLine","handle":"1F"}})"
+         "\n"
+         R"({"added":{"class":"AcDbLine","handle":"A1","properties":[]}})"
+         "\n"
+         R"({"changed":{"class":"AcDbMText","handle":"1F","property":{"name":"LineScale","value":1}}})"
+         "\n");
+    EXPECT_THROW(static_cast<void>(ConvertTo(Path("macro.cpp"))), OdError_NotThatKindOfClass);
+    QFile file(Path("macro.cpp"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray text = file.readAll();
+    EXPECT_TRUE(text.endsWith("&kvline1 );\n")) << text.toStdString();
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 1);
+}
+
 TEST_F(Conversion, NeedsTheObjectLogic)
 {
     const auto codeOf = [&](const char* events)
