@@ -3,26 +3,19 @@
 
 #include "backends/cpp/counters.h"
 #include "backends/cppcom/counters.h"
-<<<<<<< HEAD
 #include "backends/csharp/counters.h"
 #include "backends/javascript/counters.h"
 #include "backends/vba/counters.h"
 #include "backends/vbnet/counters.h"
-=======
->>>>>>> com
 #include "core/recording_start.h"
 
 void ResetProcessState()
 {
     RecordingStart::Current() = {};
     CppCounters::OfProcess() = {};
-<<<<<<< HEAD
     CSharpCounters::OfProcess() = {};
     JavaScriptCounters::OfProcess() = {};
     VbNetCounters::OfProcess() = {};
     ComCounters::OfProcess() = {};
     VbaCounters::OfProcess() = {};
-=======
-    ComCounters::OfProcess() = {};
->>>>>>> com
 }
