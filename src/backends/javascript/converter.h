@@ -2,6 +2,7 @@
 #pragma once
 
 #include "backends/text/text_operations.h"
+#include "core/trim_search.h"
 
 #include <QtCore/QMap>
 
@@ -26,5 +27,24 @@ public:
     [[nodiscard]] const QMap<QString, std::int32_t>& ObjectTypeNumbers() const { return objectTypeNumbers_; }
 
 private:
+    // Arrays: an empty one of a size, its elements, and one of coordinates.
+    [[nodiscard]] QString DeclareArray(const QString& array, int size);
+    [[nodiscard]] QString AssignElements(const QString& array, const QStringList& names);
+    [[nodiscard]] QString CoordinateArray(const QString& array, const OdArray<OdGePoint2d>& points);
+    [[nodiscard]] QString CoordinateArray(const QString& array, const OdArray<OdGePoint3d>& points);
+
+    // Pieces that several operations share.
+    [[nodiscard]] QString EntitiesHead(const EntityArray& entities, bool typed);
+    [[nodiscard]] QString Entities(const EntityArray& entities);
+    [[nodiscard]] QString TypedEntities(const EntityArray& entities);
+    [[nodiscard]] QString PickedEntities(const QString& edges, const QStringList& edgeNames, const QString& changed,
+                                         const QStringList& changedNames, int number,
+                                         const OdArray<OdGePoint3d>& points);
+    [[nodiscard]] QString SearchTrimmed(const TrimSearch& search);
+    [[nodiscard]] QString AssignTrimmed(TrimSearch::Shape shape, const TrimSearch::Assignment& assignment);
+    [[nodiscard]] QString CompareTrimmed(TrimSearch::Shape shape, const QString& assignments, const QString& prefix);
+    [[nodiscard]] QString CornerEntities(int number, const QStringList& firstNames, const OdGePoint3d& firstPoint,
+                                         const QStringList& secondNames, const OdGePoint3d& secondPoint);
+
     QMap<QString, std::int32_t> objectTypeNumbers_;
 };
