@@ -5,6 +5,7 @@
 #include "core/trim_search.h"
 
 #include <QtCore/QMap>
+#include <span>
 
 class CZtConverterKVAPIJavaScript final : public kv::ConverterText
 {
@@ -27,11 +28,11 @@ public:
     [[nodiscard]] const QMap<QString, std::int32_t>& ObjectTypeNumbers() const { return objectTypeNumbers_; }
 
 private:
-    // Arrays: an empty one of a size, its elements, and one of coordinates.
+    // Arrays: one of a size, its elements, one of points, and the coordinates of points as the values of one.
     [[nodiscard]] QString DeclareArray(const QString& array, int size);
     [[nodiscard]] QString AssignElements(const QString& array, const QStringList& names);
     [[nodiscard]] QString CoordinateArray(const QString& array, const OdArray<OdGePoint2d>& points);
-    [[nodiscard]] QString CoordinateArray(const QString& array, const OdArray<OdGePoint3d>& points);
+    [[nodiscard]] static QString Coordinates(std::span<const OdGePoint3d> points);
 
     // Pieces that several operations share.
     [[nodiscard]] QString EntitiesHead(const EntityArray& entities, bool typed);

@@ -2,8 +2,8 @@
 // objects/hatches.cpp.
 #include "backends/javascript/color_expression.h"
 #include "backends/javascript/converter.h"
-#include "backends/javascript/coordinate_list.h"
 #include "backends/javascript/object.h"
+#include "backends/text/coordinate_list.h"
 
 using kv::Fixed;
 using kv::General;
@@ -77,7 +77,7 @@ QString CZtConverterKVAPIObjectJavaScript::WriteInsertHatchByBoundary(const QStr
         countList += kv::Fill("%1,", count);
     }
     countList.chop(1);
-    QString text = Line("%1var hatchPoints%2 = new Array(%3);\n", number, kv::CoordinateList<kv::FixedForms>(points));
+    QString text = Line("%1var hatchPoints%2 = new Array(%3);\n", number, kv::CoordinateList<kv::FixedPoint2d>(points));
     text += kv::LineEnd();
     // The count of a single loop makes an array of that length; the format's.
     text += Line("%1var boundaryPointsCount%2 = new Array(%3);\n", number, countList);
@@ -94,7 +94,7 @@ QString CZtConverterKVAPIObjectJavaScript::WriteInsertHatchByInternalPoints(cons
                                                                             double angle)
 {
     const std::int32_t number = NextLocalNumber();
-    QString text = Line("%1var polyPoints%2 = new Array(%3);\n", number, kv::CoordinateList<kv::FixedForms>(points));
+    QString text = Line("%1var polyPoints%2 = new Array(%3);\n", number, kv::CoordinateList<kv::FixedPoint2d>(points));
     text += kv::LineEnd();
     text += Statement("%1var %7 = mSkMgr.InsertHatchByInternalPoints(polyPoints%3, \"%4\", %5, %6);%2", number, pattern,
                       Fixed{scale}, Fixed{angle}, target);

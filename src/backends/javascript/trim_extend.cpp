@@ -1,6 +1,5 @@
 // JavaScript texts of trim and extend; the logic stands in core/trim_extend.cpp.
 #include "backends/javascript/converter.h"
-#include "backends/javascript/coordinate_list.h"
 #include "backends/javascript/counters.h"
 
 using kv::General;
@@ -44,7 +43,7 @@ QString CZtConverterKVAPIJavaScript::PickedEntities(const QString& edges, const 
     text += kv::LineEnd();
     text += AssignElements(changed, changedNames);
     text += kv::LineEnd();
-    text += CoordinateArray(kv::Fill("PointOnEntityDblArray%1", number), points);
+    text += Line("%1var PointOnEntityDblArray%2 = new Array(%3);\n", number, Coordinates(points));
     text += kv::LineEnd();
     return text;
 }
@@ -70,7 +69,7 @@ QString CZtConverterKVAPIJavaScript::SearchTrimmed(const TrimSearch& search)
                              "%1var mathUtility = mApp.GetMathUtility();%2%2"
                              "%1var selPts = new Array(%3), prop = new Array(%4);                "
                              "//selection points and properties%2",
-                             kv::CoordinateList<kv::GeneralForms>(search.selectionPoints), properties);
+                             Coordinates(search.selectionPoints), properties);
     QString blocks;
     for (const TrimSearch::Block& block : search.blocks)
     {

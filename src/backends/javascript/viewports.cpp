@@ -40,8 +40,8 @@ QString CZtConverterKVAPIJavaScript::WriteInsertPolygonalViewport(const QString&
 QString CZtConverterKVAPIJavaScript::WriteInsertViewTiles(const QString& layout, bool flag, const QStringList& tiles)
 {
     const QString array = kv::Fill("kvViewTileArray%1", JavaScriptCounters::OfProcess().WriteInsertViewTiles++);
-    QString text = Statement("%1var %5 = mModel.InsertViewTiles(\"%3\", %4);%2"
-                             "%1%5 = mModel.GetViewTiles();%2%2",
+    QString text = Statement("%1mModel.InsertViewTiles(\"%3\", %4);%2"
+                             "%1var %5 = mModel.GetViewTiles();%2%2",
                              kv::FormOfConstant(kv::EnumForm::Bare, layout), FlagWord(flag), array);
     for (int i = 0; i < tiles.size(); ++i)
     {
