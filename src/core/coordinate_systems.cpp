@@ -59,7 +59,8 @@ QString CZtConverterKVAPIImpl::SwitchCCS(const ActionData& data)
         return WriteAlignCCSByView();
     }
     static const QHash<QString, QString> defaults = {
-        {QStringLiteral("Top"), QStringLiteral("kvDefaultCustomCoordinateSystem_e.kvDefaultCustomCoordinateSystem_Top")},
+        {QStringLiteral("Top"),
+         QStringLiteral("kvDefaultCustomCoordinateSystem_e.kvDefaultCustomCoordinateSystem_Top")},
         {QStringLiteral("Bottom"),
          QStringLiteral("kvDefaultCustomCoordinateSystem_e.kvDefaultCustomCoordinateSystem_Bottom")},
         {QStringLiteral("Left"),

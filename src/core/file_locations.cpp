@@ -62,26 +62,23 @@ QString PropertyOf(std::span<const Location> locations, const CZtCustomAction& a
 
 ResultCode CZtConverterKVAPIImpl::ConvertInterfaceFileLocation(const CZtCustomAction& action, QString& text)
 {
-    return action.GetActionId() == 32
-               ? ConvertFileLocation(action, PropertyOf(InterfaceLocations, action),
-                                     &CZtConverterKVAPIImpl::WriteGetInterfaceFiles, text)
-               : ResultError;
+    return action.GetActionId() == 32 ? ConvertFileLocation(action, PropertyOf(InterfaceLocations, action),
+                                                            &CZtConverterKVAPIImpl::WriteGetInterfaceFiles, text)
+                                      : ResultError;
 }
 
 ResultCode CZtConverterKVAPIImpl::ConvertSystemFileLocation(const CZtCustomAction& action, QString& text)
 {
-    return action.GetActionId() == 33
-               ? ConvertFileLocation(action, PropertyOf(SystemLocations, action),
-                                     &CZtConverterKVAPIImpl::WriteGetSystemFiles, text)
-               : ResultError;
+    return action.GetActionId() == 33 ? ConvertFileLocation(action, PropertyOf(SystemLocations, action),
+                                                            &CZtConverterKVAPIImpl::WriteGetSystemFiles, text)
+                                      : ResultError;
 }
 
 ResultCode CZtConverterKVAPIImpl::ConvertDrawingSupportFileLocation(const CZtCustomAction& action, QString& text)
 {
-    return action.GetActionId() == 34
-               ? ConvertFileLocation(action, PropertyOf(DrawingSupportLocations, action),
-                                     &CZtConverterKVAPIImpl::WriteGetDrawingSupportFiles, text)
-               : ResultError;
+    return action.GetActionId() == 34 ? ConvertFileLocation(action, PropertyOf(DrawingSupportLocations, action),
+                                                            &CZtConverterKVAPIImpl::WriteGetDrawingSupportFiles, text)
+                                      : ResultError;
 }
 
 ResultCode CZtConverterKVAPIImpl::ConvertFileLocation(const CZtCustomAction& action, const QString& property,

@@ -21,10 +21,10 @@ QString CZtConverterKVAPIImpl::SetChamferOptions()
                                             database.chamferFirstDistance());
         text += WriteSetCommandOptionDouble(QStringLiteral("kvCommandOptionDouble_SetChmfDst2"),
                                             database.chamferSecondDistance());
-        text += WriteSetCommandOptionDouble(QStringLiteral("kvCommandOptionDouble_SetChmfLen"),
-                                            database.chamferLength());
-        text += WriteSetCommandOptionDouble(QStringLiteral("kvCommandOptionDouble_SetChmfAng"),
-                                            database.chamferAngle());
+        text +=
+            WriteSetCommandOptionDouble(QStringLiteral("kvCommandOptionDouble_SetChmfLen"), database.chamferLength());
+        text +=
+            WriteSetCommandOptionDouble(QStringLiteral("kvCommandOptionDouble_SetChmfAng"), database.chamferAngle());
     }
     const CZtSystemSettings& settings = GetZtSystemServices()->Settings();
     text += WriteSetCommandOptionInt16(QStringLiteral("kvCommandOptionInt16_EnblChmfAng"), settings.ChamferMode());

@@ -75,8 +75,7 @@ ResultCode CZtConverterKVAPIImpl::ConvertErase(const CZtCustomAction& action, QS
         {
             continue;
         }
-        const OdDbObjectId leader =
-            classes[i] == OdDbMText::desc() ? FindAttachedLeader(handles[i]) : OdDbObjectId();
+        const OdDbObjectId leader = classes[i] == OdDbMText::desc() ? FindAttachedLeader(handles[i]) : OdDbObjectId();
         QString variable;
         if (leader.isNull())
         {
@@ -86,8 +85,7 @@ ResultCode CZtConverterKVAPIImpl::ConvertErase(const CZtCustomAction& action, QS
         {
             // A note that belongs to a leader is reached through it.
             QString leaderVariable;
-            lookups +=
-                ObjectConverter().GetObjectByHandle(leader.getHandle(), OdDbLeader::desc(), leaderVariable);
+            lookups += ObjectConverter().GetObjectByHandle(leader.getHandle(), OdDbLeader::desc(), leaderVariable);
             static_cast<void>(ObjectConverter().GetObjectByHandle(handles[i], classes[i], variable));
             lookups += ObjectConverter().WriteGetNoteAnnotation(leaderVariable, variable);
         }

@@ -93,8 +93,7 @@ QString CZtConverterKVAPIImpl::HatchByPolyline(const QString& target, const OdAr
                                                const OdArray<OdGePoint2d>& points, const HatchPattern& pattern,
                                                bool erase)
 {
-    const QString polyline =
-        QStringLiteral("hatch_Polyline_%1").arg(LogicCounters::OfProcess().hatchPolyline++);
+    const QString polyline = QStringLiteral("hatch_Polyline_%1").arg(LogicCounters::OfProcess().hatchPolyline++);
     QString text = WriteInsertPolyline2DBlock(polyline, points, true);
     std::int32_t index = 0;
     for (const double bulge : bulges)
@@ -136,8 +135,8 @@ ResultCode CZtConverterKVAPIImpl::ConvertRegion(const CZtCustomAction& action, Q
     if (data.IsEntityArray(0))
     {
         const std::int32_t number = ++LogicCounters::OfProcess().region;
-        text = ObjectConverter().WriteInsertRegion(text, ResolveEntityVariableNames(data.Item(0), data.Item(1)),
-                                                   number);
+        text =
+            ObjectConverter().WriteInsertRegion(text, ResolveEntityVariableNames(data.Item(0), data.Item(1)), number);
     }
     return ResultNormal;
 }

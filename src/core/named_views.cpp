@@ -51,8 +51,15 @@ std::optional<NamedViewAction> NamedViewAction::Read(const ActionData& data)
     {
         return std::nullopt;
     }
-    return NamedViewAction{data.Item(0).GetHandle(), data.Item(1).GetClass(), *isSheetView, *exists, *background, *name,
-                           *viewClass,               *corner1,                *corner2};
+    return NamedViewAction{data.Item(0).GetHandle(),
+                           data.Item(1).GetClass(),
+                           *isSheetView,
+                           *exists,
+                           *background,
+                           *name,
+                           *viewClass,
+                           *corner1,
+                           *corner2};
 }
 
 // The background of a new view; nothing when the data isn't that of a background.

@@ -26,7 +26,10 @@ OdArray<OdGePoint2d> Flat(const OdArray<OdGePoint3d>& points)
 
 } // namespace
 
-bool CZtConverterKVAPIImpl::IsBent(double value) { return std::abs(value) > StraightBelow; }
+bool CZtConverterKVAPIImpl::IsBent(double value)
+{
+    return std::abs(value) > StraightBelow;
+}
 
 ResultCode CZtConverterKVAPIImpl::ConvertPolylineEdit(const CZtCustomAction& action, QString& text)
 {
@@ -208,8 +211,7 @@ ResultCode CZtConverterKVAPIImpl::ConvertJoin(const CZtCustomAction& action, QSt
     }
     QString first;
     QString second;
-    QString converted =
-        ObjectConverter().GetObjectByHandle(data.Item(0).GetHandle(), data.Item(1).GetClass(), first);
+    QString converted = ObjectConverter().GetObjectByHandle(data.Item(0).GetHandle(), data.Item(1).GetClass(), first);
     converted += ObjectConverter().GetObjectByHandle(data.Item(2).GetHandle(), data.Item(3).GetClass(), second);
     if (!first.isEmpty() && !second.isEmpty())
     {
@@ -238,8 +240,7 @@ ResultCode CZtConverterKVAPIImpl::ConvertPolyline2DBlock(const CZtCustomAction& 
         return ResultNormal;
     }
     QString variable = text;
-    if (variable.isEmpty() &&
-        !RegisterOpenable(data.Item(3).GetHandle(), data.Item(4).GetClass(), variable))
+    if (variable.isEmpty() && !RegisterOpenable(data.Item(3).GetHandle(), data.Item(4).GetClass(), variable))
     {
         return ResultError;
     }
@@ -260,8 +261,8 @@ ResultCode CZtConverterKVAPIImpl::ConvertPolyline2DBlock(const CZtCustomAction& 
             const auto segment = static_cast<std::int32_t>(i);
             converted += ObjectConverter().WriteSetPairProperty(variable, QStringLiteral("SetSegmentStartWidth"),
                                                                 segment, (*startWidths)[i]);
-            converted += ObjectConverter().WriteSetPairProperty(variable, QStringLiteral("SetSegmentEndWidth"),
-                                                                segment, (*endWidths)[i]);
+            converted += ObjectConverter().WriteSetPairProperty(variable, QStringLiteral("SetSegmentEndWidth"), segment,
+                                                                (*endWidths)[i]);
         }
     }
     if (*isGlobal)

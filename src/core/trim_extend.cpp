@@ -12,9 +12,12 @@ std::optional<TrimSearch::Shape> ShapeOf(const OdRxClass* objectClass)
 {
     using Shape = TrimSearch::Shape;
     static const std::unordered_map<const OdRxClass*, Shape> shapes = {
-        {OdDbLine::desc(), Shape::Line},           {OdDbRay::desc(), Shape::Ray},
-        {OdDbArc::desc(), Shape::CircleArc},       {OdDbEllipse::desc(), Shape::EllipseArc},
-        {OdDb3dPolyline::desc(), Shape::PolyLine3D}, {OdDbSpline::desc(), Shape::Spline},
+        {OdDbLine::desc(), Shape::Line},
+        {OdDbRay::desc(), Shape::Ray},
+        {OdDbArc::desc(), Shape::CircleArc},
+        {OdDbEllipse::desc(), Shape::EllipseArc},
+        {OdDb3dPolyline::desc(), Shape::PolyLine3D},
+        {OdDbSpline::desc(), Shape::Spline},
         {OdDbPolyline::desc(), Shape::PolyLine},
     };
     const auto found = shapes.find(objectClass);
