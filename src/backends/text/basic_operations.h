@@ -50,6 +50,51 @@ protected:
         return text;
     }
 
+    // The highest index of an array with the coordinates of so many points.
+    [[nodiscard]] static int HighestIndex2D(std::span<const OdGePoint2d> points)
+    {
+        return 2 * static_cast<int>(points.size()) - 1;
+    }
+
+    // The elements of the array <name><number>, from index 0 on.
+    [[nodiscard]] QString CountElements(const char* name, std::int32_t number,
+                                        std::span<const std::int32_t> counts) const
+    {
+        QString text;
+        int index = 0;
+        for (const std::int32_t count : counts)
+        {
+            text += Base::Statement("%1%3%4(%5) = %6%2", name, number, index++, count);
+        }
+        return text;
+    }
+
+    [[nodiscard]] QString PointElements(const char* name, std::int32_t number,
+                                        std::span<const OdGePoint3d> points) const
+    {
+        QString text;
+        int index = 0;
+        for (const OdGePoint3d& point : points)
+        {
+            for (const double coordinate : {point.x, point.y, point.z})
+            {
+                text += Base::Statement("%1%3%4(%5) = %6%2", name, number, index++, typename Base::Real{coordinate});
+            }
+        }
+        return text;
+    }
+
+    [[nodiscard]] QString PointElements(const char* name, std::int32_t number, const OdGePoint3d& point) const
+    {
+        return PointElements(name, number, std::span(&point, 1));
+    }
+
+    // The array <name><number> of so many entities.
+    [[nodiscard]] virtual QString DeclareEntities(const char* name, std::int32_t number, int count) const = 0;
+
+    [[nodiscard]] virtual QString EntityElements(const char* name, std::int32_t number,
+                                                 const QStringList& names) const = 0;
+
     // The locals of a point whose one coordinate changes.
     [[nodiscard]] QString DeclareCoordinates(std::int32_t number) const
     {
@@ -66,6 +111,5 @@ protected:
     }
 };
 
-using BasicConverterText = BasicOperations<ConverterText>;
 using BasicObjectText = BasicOperations<ObjectText>;
 } // namespace kv

@@ -10,6 +10,8 @@ namespace kv
 // How a point goes into a template: in the general form on the journal side, in the fixed one on the object side.
 struct GeneralForms
 {
+    using Real = General;
+
     template <class V>
     [[nodiscard]] static decltype(auto) Of(const V& value)
     {
@@ -34,6 +36,8 @@ struct GeneralForms
 
 struct FixedForms
 {
+    using Real = Fixed;
+
     template <class V>
     [[nodiscard]] static decltype(auto) Of(const V& value)
     {
@@ -60,6 +64,9 @@ public:
     using Base::Base;
 
 protected:
+    // The form of a real number on this side of the language.
+    using Real = typename Forms::Real;
+
     template <class V>
     using FormOf = std::remove_cvref_t<decltype(Forms::Of(std::declval<const V&>()))>;
 

@@ -4,7 +4,7 @@
 #include "backends/vba/object.h"
 #include "core/recording_start.h"
 
-CZtConverterKVAPIVba::CZtConverterKVAPIVba(std::int32_t recordingMode) : BasicOperations(recordingMode)
+CZtConverterKVAPIVba::CZtConverterKVAPIVba(std::int32_t recordingMode) : ObjectArrays(recordingMode)
 {
     SetObjectConverter(std::make_unique<CZtConverterKVAPIObjectVba>(this));
 }

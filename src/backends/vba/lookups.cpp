@@ -1,7 +1,7 @@
 // VBA texts of comments and look-ups of objects; the logic stands in objects/lookups.cpp.
 #include "backends/vba/object.h"
 
-CZtConverterKVAPIObjectVba::CZtConverterKVAPIObjectVba(CZtConverterKVAPIImpl* converter) : BasicOperations(converter) {}
+CZtConverterKVAPIObjectVba::CZtConverterKVAPIObjectVba(CZtConverterKVAPIImpl* converter) : ObjectArrays(converter) {}
 
 QString CZtConverterKVAPIObjectVba::WriteObjectAddedComment(const QString& className)
 {

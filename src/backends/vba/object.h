@@ -1,9 +1,9 @@
 // VBA: the object side.
 #pragma once
 
-#include "backends/text/basic_operations.h"
+#include "backends/vba/entity_arrays.h"
 
-class CZtConverterKVAPIObjectVba final : public kv::BasicObjectText
+class CZtConverterKVAPIObjectVba final : public kv::ObjectArrays<kv::BasicObjectText>
 {
 public:
     explicit CZtConverterKVAPIObjectVba(CZtConverterKVAPIImpl* converter);

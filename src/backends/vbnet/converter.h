@@ -1,9 +1,10 @@
 // VB.NET: the journal side.
 #pragma once
 
-#include "backends/text/basic_operations.h"
+#include "backends/text/basic_converter_text.h"
+#include "backends/vbnet/entity_arrays.h"
 
-class CZtConverterKVAPIVbNet final : public kv::BasicConverterText
+class CZtConverterKVAPIVbNet final : public kv::DispatchArrays<kv::BasicConverterText>
 {
 public:
     explicit CZtConverterKVAPIVbNet(std::int32_t recordingMode);
@@ -13,6 +14,10 @@ public:
 #undef OPERATION
 
 private:
+    // Pieces that several operations share.
+    [[nodiscard]] QString TypedEntities(const EntityArray& entities) const;
+    [[nodiscard]] QString SearchTrimmed(const TrimSearch& search) const;
+
     // Lower case on this side only.
     [[nodiscard]] QString FlagWord(bool flag) const override { return kv::ConverterText::FlagWord(flag); }
 };

@@ -3,7 +3,7 @@
 #include "backends/vbnet/object.h"
 #include "core/recording_start.h"
 
-CZtConverterKVAPIVbNet::CZtConverterKVAPIVbNet(std::int32_t recordingMode) : BasicOperations(recordingMode)
+CZtConverterKVAPIVbNet::CZtConverterKVAPIVbNet(std::int32_t recordingMode) : DispatchArrays(recordingMode)
 {
     SetObjectConverter(std::make_unique<CZtConverterKVAPIObjectVbNet>(this));
 }

@@ -1,8 +1,7 @@
 // VB.NET texts of comments and look-ups of objects; the logic stands in objects/lookups.cpp.
 #include "backends/vbnet/object.h"
 
-CZtConverterKVAPIObjectVbNet::CZtConverterKVAPIObjectVbNet(CZtConverterKVAPIImpl* converter)
-    : BasicOperations(converter)
+CZtConverterKVAPIObjectVbNet::CZtConverterKVAPIObjectVbNet(CZtConverterKVAPIImpl* converter) : DispatchArrays(converter)
 {
 }
 

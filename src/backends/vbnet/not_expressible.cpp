@@ -7,6 +7,19 @@ QString CZtConverterKVAPIVbNet::WriteCommentBlockSeparator()
     return {};
 }
 
+// A selection reaches the macro through its entities only.
+
+QString CZtConverterKVAPIVbNet::WriteSelectByMethods(const SelectionMethod& /*method*/, bool /*filterActive*/)
+{
+    return {};
+}
+
+QString CZtConverterKVAPIVbNet::WriteSetSelectionFilter(const SelectionMethod& /*method*/,
+                                                        const QStringList& /*typeNames*/)
+{
+    return {};
+}
+
 QString CZtConverterKVAPIObjectVbNet::WriteObjectAddedEnd()
 {
     return {};

@@ -1,9 +1,9 @@
 // VB.NET: the object side.
 #pragma once
 
-#include "backends/text/basic_operations.h"
+#include "backends/vbnet/entity_arrays.h"
 
-class CZtConverterKVAPIObjectVbNet final : public kv::BasicObjectText
+class CZtConverterKVAPIObjectVbNet final : public kv::DispatchArrays<kv::BasicObjectText>
 {
 public:
     explicit CZtConverterKVAPIObjectVbNet(CZtConverterKVAPIImpl* converter);
