@@ -1,6 +1,6 @@
 // C++ API texts of curves and points; the logic stands in objects/curves.cpp.
 #include "backends/cpp/object.h"
-#include "backends/text/coordinate_locals.h"
+#include "backends/text/pointer_setters.h"
 
 using kv::Fixed;
 
@@ -77,30 +77,15 @@ QString CZtConverterKVAPIObjectCPP::WriteSetPointProperty(const QString& variabl
 
 QString CZtConverterKVAPIObjectCPP::WriteSetPosition(const QString& variable, Axis axis, double value)
 {
-    const std::int32_t number = NextLocalNumber();
-    QString text = kv::DeclareCoordinates(CurrentIndent(), number);
-    text += Statement("%1%3->GetPosition( &getX%4, &getY%4, &getZ%4);%2", variable, number);
-    text += kv::AssignCoordinate(CurrentIndent(), axis, value, number);
-    text += Statement("%1%3->SetPosition( getX%4, getY%4, getZ%4 );%2", variable, number);
-    return text;
+    return kv::ChangePosition(CurrentIndent(), variable, axis, value, NextLocalNumber());
 }
 
 QString CZtConverterKVAPIObjectCPP::WriteSetFirstPoint(const QString& variable, Axis axis, double value)
 {
-    const std::int32_t number = NextLocalNumber();
-    QString text = kv::DeclareCoordinates(CurrentIndent(), number);
-    text += Statement("%1%3->GetFirstPoint( &getX%4, &getY%4, &getZ%4);%2", variable, number);
-    text += kv::AssignCoordinate(CurrentIndent(), axis, value, number);
-    text += Statement("%1%3->SetFirstPoint( getX%4, getY%4, getZ%4 );%2", variable, number);
-    return text;
+    return kv::ChangeFirstPoint(CurrentIndent(), variable, axis, value, NextLocalNumber());
 }
 
 QString CZtConverterKVAPIObjectCPP::WriteSetSecondPoint(const QString& variable, Axis axis, double value)
 {
-    const std::int32_t number = NextLocalNumber();
-    QString text = kv::DeclareCoordinates(CurrentIndent(), number);
-    text += Statement("%1%3->GetSecondPoint( &getX%4, &getY%4, &getZ%4);%2", variable, number);
-    text += kv::AssignCoordinate(CurrentIndent(), axis, value, number);
-    text += Statement("%1%3->SetSecondPoint( getX%4, getY%4, getZ%4 );%2", variable, number);
-    return text;
+    return kv::ChangeSecondPoint(CurrentIndent(), variable, axis, value, NextLocalNumber());
 }

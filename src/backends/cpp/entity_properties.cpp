@@ -2,6 +2,7 @@
 #include "backends/cpp/counters.h"
 #include "backends/cpp/object.h"
 #include "backends/text/enumerations.h"
+#include "backends/text/pointer_setters.h"
 
 using kv::Fixed;
 
@@ -60,44 +61,17 @@ QString CZtConverterKVAPIObjectCPP::WriteSetTransparency(const QString& variable
                                                          std::int32_t percent)
 {
     const int number = CppCounters::OfProcess().WriteSetTransparency++;
-    QString setting;
-    switch (method)
-    {
-    case OdCmTransparency::Method::ByLayer:
-        setting = kv::Fill("kvTransparency%1->SetByLayer();", number);
-        break;
-    case OdCmTransparency::Method::ByBlock:
-        setting = kv::Fill("kvTransparency%1->SetByBlock();", number);
-        break;
-    case OdCmTransparency::Method::ByAlpha:
-        setting = kv::Fill("kvTransparency%1->SetByAlpha( %2 );", number, percent);
-        break;
-    }
     return Statement("%1kvTransparency_ptr kvTransparency%3;%2"
                      "%1%4->get_Transparency( &kvTransparency%3 );%2"
                      "%1%5%2"
                      "%1%4->put_Transparency( kvTransparency%3 );%2",
-                     number, variable, setting);
+                     number, variable, kv::SetTransparencyLocal(number, method, percent));
 }
 
 QString CZtConverterKVAPIObjectCPP::WriteSetHyperLink(const QString& variable, const HyperLink& link)
 {
     const int number = CppCounters::OfProcess().WriteSetHyperLink++;
     QString text = Line("%1kvHyperLink_ptr *hyperLink%3 = %2->GetHyperLink();\n", variable, number);
-    text += Line("%1hyperLink%2->put_Description(L\"%3\");\n", number, link.description);
-    switch (link.kind)
-    {
-    case HyperLink::Kind::PlaceInThisDrawing:
-        text += Line("%1hyperLink%2->SetPlaceInThisDrawing( L\"%3\");", number, link.target);
-        break;
-    case HyperLink::Kind::FileOrWebPage:
-        text += Line("%1hyperLink%2->SetFileOrWebPage( L\"%3\", L\"%3\");", number, link.target);
-        break;
-    case HyperLink::Kind::EmailAddress:
-        text += Line("%1hyperLink%2->SetEmailAddress( L\"%3\", L\"%4\");", number, link.target, link.subject);
-        break;
-    }
-    text += kv::LineEnd();
-    text += Line("%1%2->SetHyperLink(hyperLink%3);\n", variable, number);
+    text += kv::SetHyperLinkLocal(CurrentIndent(), number, link, variable);
     return text;
 }

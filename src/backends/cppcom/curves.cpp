@@ -1,5 +1,6 @@
 // C++ COM texts of curves and points; the logic stands in objects/curves.cpp.
 #include "backends/cppcom/object.h"
+#include "backends/text/pointer_setters.h"
 
 using kv::Fixed;
 
@@ -77,43 +78,15 @@ QString CZtConverterKVAPIObjectCPPCOM::WriteSetPointProperty(const QString& vari
 
 QString CZtConverterKVAPIObjectCPPCOM::WriteSetPosition(const QString& variable, Axis axis, double value)
 {
-    const std::int32_t number = NextLocalNumber();
-    QString text = DeclareCoordinates(number);
-    text += Statement("%1%3->GetPosition( &getX%4, &getY%4, &getZ%4);%2", variable, number);
-    text += AssignCoordinate(axis, value, number);
-    text += Statement("%1%3->SetPosition( getX%4, getY%4, getZ%4 );%2", variable, number);
-    return text;
+    return kv::ChangePosition(CurrentIndent(), variable, axis, value, NextLocalNumber());
 }
 
 QString CZtConverterKVAPIObjectCPPCOM::WriteSetFirstPoint(const QString& variable, Axis axis, double value)
 {
-    const std::int32_t number = NextLocalNumber();
-    QString text = DeclareCoordinates(number);
-    text += Statement("%1%3->GetFirstPoint( &getX%4, &getY%4, &getZ%4);%2", variable, number);
-    text += AssignCoordinate(axis, value, number);
-    text += Statement("%1%3->SetFirstPoint( getX%4, getY%4, getZ%4 );%2", variable, number);
-    return text;
+    return kv::ChangeFirstPoint(CurrentIndent(), variable, axis, value, NextLocalNumber());
 }
 
 QString CZtConverterKVAPIObjectCPPCOM::WriteSetSecondPoint(const QString& variable, Axis axis, double value)
 {
-    const std::int32_t number = NextLocalNumber();
-    QString text = DeclareCoordinates(number);
-    text += Statement("%1%3->GetSecondPoint( &getX%4, &getY%4, &getZ%4);%2", variable, number);
-    text += AssignCoordinate(axis, value, number);
-    text += Statement("%1%3->SetSecondPoint( getX%4, getY%4, getZ%4 );%2", variable, number);
-    return text;
-}
-
-QString CZtConverterKVAPIObjectCPPCOM::DeclareCoordinates(std::int32_t number)
-{
-    QString text = Statement("%1double getX%3;%2", number);
-    text += Statement("%1double getY%3;%2", number);
-    text += Statement("%1double getZ%3;%2", number);
-    return text;
-}
-
-QString CZtConverterKVAPIObjectCPPCOM::AssignCoordinate(Axis axis, double value, std::int32_t number)
-{
-    return Statement("%1%3%5 = %4;%2", QLatin1String("get") + QLatin1String(AxisName(axis)), Fixed{value}, number);
+    return kv::ChangeSecondPoint(CurrentIndent(), variable, axis, value, NextLocalNumber());
 }

@@ -1,7 +1,9 @@
 // C++ COM texts of the properties that all entities share; the logic stands in objects/entity_properties.cpp.
+#include "backends/cppcom/color_expression.h"
 #include "backends/cppcom/counters.h"
 #include "backends/cppcom/object.h"
 #include "backends/text/enumerations.h"
+#include "backends/text/pointer_setters.h"
 
 using kv::Fixed;
 
@@ -31,18 +33,10 @@ QString CZtConverterKVAPIObjectCPPCOM::WriteSetStringProperty(const QString& var
 QString CZtConverterKVAPIObjectCPPCOM::WriteSetColorProperty(const QString& variable, const QString& word,
                                                              const OdCmColor& color)
 {
-    const std::int32_t number = NextLocalNumber();
-    if (color.colorMethod() != OdCmColor::Method::ByColor)
-    {
-        return Statement("%1IColorPtr iColor%3;%2"
-                         "%1iColor%3=pConnection->m_KvApp->GetColorByIndex( %4 );%2"
-                         "%1%5->put_%6( iColor%3 );%2",
-                         number, color.colorIndex(), variable, word);
-    }
     return Statement("%1IColorPtr iColor%3;%2"
-                     "%1iColor%3=pConnection->m_KvApp->GetRGBColor( %4 ,%5 ,%6 );%2"
-                     "%1%7->put_%8( iColor%3 );%2",
-                     number, int{color.red()}, int{color.green()}, int{color.blue()}, variable, word);
+                     "%1iColor%3=%4;%2"
+                     "%1%5->put_%6( iColor%3 );%2",
+                     NextLocalNumber(), ColorExpression(color), variable, word);
 }
 
 QString CZtConverterKVAPIObjectCPPCOM::WriteSetLayerProperty(const QString& variable, const QString& layer)
@@ -66,44 +60,17 @@ QString CZtConverterKVAPIObjectCPPCOM::WriteSetTransparency(const QString& varia
                                                             std::int32_t percent)
 {
     const int number = ComCounters::OfProcess().WriteSetTransparency++;
-    QString setting;
-    switch (method)
-    {
-    case OdCmTransparency::Method::ByLayer:
-        setting = kv::Fill("kvTransparency%1->SetByLayer();", number);
-        break;
-    case OdCmTransparency::Method::ByBlock:
-        setting = kv::Fill("kvTransparency%1->SetByBlock();", number);
-        break;
-    case OdCmTransparency::Method::ByAlpha:
-        setting = kv::Fill("kvTransparency%1->SetByAlpha( %2 );", number, percent);
-        break;
-    }
     return Statement("%1ITransparencyPtr kvTransparency%3;%2"
                      "%1%4->get_Transparency( &kvTransparency%3 );%2"
                      "%1%5%2"
                      "%1%4->put_Transparency( kvTransparency%3 );%2",
-                     number, variable, setting);
+                     number, variable, kv::SetTransparencyLocal(number, method, percent));
 }
 
 QString CZtConverterKVAPIObjectCPPCOM::WriteSetHyperLink(const QString& variable, const HyperLink& link)
 {
     const int number = ComCounters::OfProcess().WriteSetHyperLink++;
     QString text = Line("%1IHyperLinkPtr hyperLink%3 = %2->GetHyperLink();\n", variable, number);
-    text += Line("%1hyperLink%2->put_Description(L\"%3\");\n", number, link.description);
-    switch (link.kind)
-    {
-    case HyperLink::Kind::PlaceInThisDrawing:
-        text += Line("%1hyperLink%2->SetPlaceInThisDrawing( L\"%3\");", number, link.target);
-        break;
-    case HyperLink::Kind::FileOrWebPage:
-        text += Line("%1hyperLink%2->SetFileOrWebPage( L\"%3\", L\"%3\");", number, link.target);
-        break;
-    case HyperLink::Kind::EmailAddress:
-        text += Line("%1hyperLink%2->SetEmailAddress( L\"%3\", L\"%4\");", number, link.target, link.subject);
-        break;
-    }
-    text += kv::LineEnd();
-    text += Line("%1%2->SetHyperLink(hyperLink%3);\n", variable, number);
+    text += kv::SetHyperLinkLocal(CurrentIndent(), number, link, variable);
     return text;
 }

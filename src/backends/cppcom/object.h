@@ -15,8 +15,4 @@ public:
 private:
     // Flags of the automation interfaces.
     [[nodiscard]] QString FlagWord(bool flag) const override;
-
-    // The locals of a point whose one coordinate changes.
-    [[nodiscard]] QString DeclareCoordinates(std::int32_t number);
-    [[nodiscard]] QString AssignCoordinate(Axis axis, double value, std::int32_t number);
 };
