@@ -2,6 +2,7 @@
 // the result of its call and isn't asked for.
 #include "backends/javascript/converter.h"
 #include "backends/javascript/counters.h"
+#include "backends/text/coordinate_list.h"
 
 using kv::General;
 
@@ -120,7 +121,8 @@ QString CZtConverterKVAPIJavaScript::WriteRemoveClipBoundary(const QString& vari
 QString CZtConverterKVAPIJavaScript::WriteSetClipBoundary(const QString& variable, const OdArray<OdGePoint2d>& points)
 {
     const std::int32_t number = NextLocalNumber();
-    QString text = CoordinateArray(kv::Fill("ClipPointsDblArray%1", number), points);
+    QString text =
+        Line("%1var ClipPointsDblArray%2 = new Array(%3);\n", number, kv::CoordinateList<kv::GeneralPoint2d>(points));
     text += kv::LineEnd();
     // The name of the call is the format's.
     text += Statement("%1%4.InsertPolyline2D(ClipPointsDblArray%3);%2", number, variable);
