@@ -1,6 +1,9 @@
 // The blocks that tell a trim's new entities apart, in the Basic languages.
 #include "backends/text/basic_trim_search.h"
 
+#include <map>
+#include <vector>
+
 namespace kv
 {
 namespace
