@@ -1,6 +1,9 @@
 // The blocks that tell a trim's new entities apart, in the Basic languages.
 #include "backends/text/basic_trim_search.h"
 
+#include <map>
+#include <vector>
+
 namespace kv
 {
 namespace
@@ -126,8 +129,8 @@ QString TrimBlock(const BasicSearchForms& forms, const TrimSearch::Block& block,
     text += CompareLocals(forms.absolute, words.compared, indent);
     for (const TrimSearch::Assignment& assignment : block.assignments)
     {
-        text += Fill<Indent, QString, int, int, QString>(forms.assignment, indent, LineEnd(), assignment.index,
-                                                         assignment.number, stem);
+        text += Fill<Indent, QString, int, QString, int>(forms.assignment, indent, LineEnd(), assignment.index, stem,
+                                                         assignment.number);
     }
     text += Fill("%1        Exit For%2"
                  "%1    End If%2",

@@ -11,7 +11,7 @@ struct BasicSearchForms
 {
     Template<Indent, QString, QString, QString> object;          // the found object as one of its class: stem, class
     Template<Indent, QString, QString, QString, QString> getter; // stem, method, the locals that it fills
-    Template<Indent, QString, int, int, QString> assignment;     // index, number of the variable, stem
+    Template<Indent, QString, int, QString, int> assignment;     // index, stem, number of the variable
     QLatin1String absolute;                                      // the function of the absolute value
 };
 

@@ -11,7 +11,7 @@ constexpr kv::BasicSearchForms searchForms = {
     "%1    Set kv%3 = obj%2",
     "%1    kv%3.%4 %5%2",
     "%1If iNewEnt = %3 Then%2"
-    "%1    Set %5%4 = kv%5%2"
+    "%1    Set %4%5 = kv%4%2"
     "%1End If%2",
     QLatin1String("Abs"),
 };

@@ -10,7 +10,7 @@ constexpr kv::BasicSearchForms searchForms = {
     "%1    Dim kv%3 As Morvane.%4 = obj%2",
     "%1    kv%3.%4(%5)%2",
     "%1If iNewEnt = %3 Then%2"
-    "%1    %5%4 = kv%5%2"
+    "%1    %4%5 = kv%4%2"
     "%1End If%2",
     QLatin1String("Math.Abs"),
 };
