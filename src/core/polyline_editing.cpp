@@ -97,23 +97,24 @@ QString CZtConverterKVAPIImpl::EditPolylines(const QString& keyword, const Actio
     {
         return {};
     }
+    QString joins;
     for (int i = 1; i < names.size(); ++i)
     {
         const QString& className = classNames[static_cast<std::size_t>(i)];
         if (className.compare(QLatin1String("AcDbPolyline"), Qt::CaseInsensitive) == 0)
         {
-            text += WriteJoinPolyline(names.front(), names.at(i));
+            joins += WriteJoinPolyline(names.front(), names.at(i));
         }
         else if (className.compare(QLatin1String("AcDbLine"), Qt::CaseInsensitive) == 0)
         {
-            text += WriteJoinLine(names.front(), names.at(i));
+            joins += WriteJoinLine(names.front(), names.at(i));
         }
         else if (className.compare(QLatin1String("AcDbArc"), Qt::CaseInsensitive) == 0)
         {
-            text += WriteJoinCircleArc(names.front(), names.at(i));
+            joins += WriteJoinCircleArc(names.front(), names.at(i));
         }
     }
-    return text;
+    return joins.isEmpty() ? QString() : text + joins;
 }
 
 // Edits of one polyline.
