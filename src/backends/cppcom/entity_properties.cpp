@@ -1,5 +1,4 @@
 // C++ COM texts of the properties that all entities share; the logic stands in objects/entity_properties.cpp.
-#include "backends/cppcom/color_expression.h"
 #include "backends/cppcom/counters.h"
 #include "backends/cppcom/object.h"
 #include "backends/text/enumerations.h"
@@ -33,10 +32,18 @@ QString CZtConverterKVAPIObjectCPPCOM::WriteSetStringProperty(const QString& var
 QString CZtConverterKVAPIObjectCPPCOM::WriteSetColorProperty(const QString& variable, const QString& word,
                                                              const OdCmColor& color)
 {
+    const std::int32_t number = NextLocalNumber();
+    if (color.colorMethod() != OdCmColor::Method::ByColor)
+    {
+        return Statement("%1IColorPtr iColor%3;%2"
+                         "%1iColor%3=pConnection->m_KvApp->GetColorByIndex( %4 );%2"
+                         "%1%5->put_%6( iColor%3 );%2",
+                         number, color.colorIndex(), variable, word);
+    }
     return Statement("%1IColorPtr iColor%3;%2"
-                     "%1iColor%3=%4;%2"
-                     "%1%5->put_%6( iColor%3 );%2",
-                     NextLocalNumber(), ColorExpression(color), variable, word);
+                     "%1iColor%3=pConnection->m_KvApp->GetRGBColor( %4 ,%5 ,%6 );%2"
+                     "%1%7->put_%8( iColor%3 );%2",
+                     number, int{color.red()}, int{color.green()}, int{color.blue()}, variable, word);
 }
 
 QString CZtConverterKVAPIObjectCPPCOM::WriteSetLayerProperty(const QString& variable, const QString& layer)

@@ -18,20 +18,6 @@ const char* VariantType(SafeArrayText::Kind kind)
     return "";
 }
 
-const char* ElementType(SafeArrayText::Kind kind)
-{
-    switch (kind)
-    {
-    case SafeArrayText::Kind::Integers:
-        return "long";
-    case SafeArrayText::Kind::Doubles:
-        return "double";
-    case SafeArrayText::Kind::Entities:
-        return "IDispatch*";
-    }
-    return "";
-}
-
 } // namespace
 
 QString SafeArrayText::Declare(kv::Indent indent, int size) const
@@ -44,10 +30,25 @@ QString SafeArrayText::Declare(kv::Indent indent, int size) const
 
 QString SafeArrayText::Begin(kv::Indent indent) const
 {
-    return kv::Fill("%1long rgIndices%3;%2"
-                    "%1rgIndices%3 = 0;%2"
-                    "%1%4 val%3;%2",
-                    indent, kv::LineEnd(), number_, ElementType(kind_));
+    switch (kind_)
+    {
+    case Kind::Integers:
+        return kv::Fill("%1long rgIndices%3;%2"
+                        "%1rgIndices%3 = 0;%2"
+                        "%1long val%3;%2",
+                        indent, kv::LineEnd(), number_);
+    case Kind::Doubles:
+        return kv::Fill("%1long rgIndices%3;%2"
+                        "%1rgIndices%3 = 0;%2"
+                        "%1double val%3;%2",
+                        indent, kv::LineEnd(), number_);
+    case Kind::Entities:
+        return kv::Fill("%1long rgIndices%3;%2"
+                        "%1rgIndices%3 = 0;%2"
+                        "%1IDispatch* val%3;%2",
+                        indent, kv::LineEnd(), number_);
+    }
+    return {};
 }
 
 QString SafeArrayText::Element(kv::Indent indent, const QString& value) const
