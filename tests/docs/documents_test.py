@@ -12,6 +12,10 @@ DOCUMENTS = [*SOURCE.glob("*.md"), *(path for folder in ("docs", "examples", "te
                                      for path in (SOURCE / folder).rglob("*.md"))]
 
 
+def unindented(text):
+    return "\n".join(line.strip() for line in text.strip().splitlines())
+
+
 def anchors(document):
     headings = re.findall(r"^#+ +(.*)$", document.read_text(encoding="utf-8"), re.MULTILINE)
     return {re.sub(r"[^\w\- ]", "", heading.lower()).replace(" ", "-") for heading in headings}
@@ -35,6 +39,18 @@ class Links(unittest.TestCase):
                                    document.read_text(encoding="utf-8")):
                 with self.subTest(document=document.name, path=path):
                     self.assertTrue((SOURCE / path).exists())
+
+
+class Code(unittest.TestCase):
+    def test_shown_in_how_to_is_that_of_the_source(self):
+        sources = [unindented(file.read_text(encoding="utf-8")) for pattern in ("*.h", "*.cpp", "*.def")
+                   for file in (SOURCE / "src").rglob(pattern)]
+        text = (SOURCE / "docs/adding-an-operation.md").read_text(encoding="utf-8")
+        blocks = re.findall(r"^ *```cpp\n(.*?)^ *```", text, re.DOTALL | re.MULTILINE)
+        self.assertNotEqual(blocks, [])
+        for block in blocks:
+            with self.subTest(block=block):
+                self.assertTrue(any(unindented(block) in source for source in sources))
 
 
 class Readme(unittest.TestCase):
