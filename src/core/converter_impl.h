@@ -31,6 +31,8 @@ class CZtConverterKVAPIImpl : public CZtConverterKVAPI
 {
 public:
     ~CZtConverterKVAPIImpl() override;
+    CZtConverterKVAPIImpl(const CZtConverterKVAPIImpl&) = delete;
+    CZtConverterKVAPIImpl& operator=(const CZtConverterKVAPIImpl&) = delete;
 
     // CZtConverterKVAPI
     [[nodiscard]] ResultCode Convert(const CZtString& outputPath, const CZtJournal& journal) override;
@@ -74,7 +76,7 @@ public:
 
     // Routes one event to the operation that translates it. The text comes in empty or prefilled with the variable
     // that a custom action is to assign, and goes out as the generated statements. -5001 for an unknown event.
-    [[nodiscard]] ResultCode ConvertEvent(const OdRxObject* event, QString& text);
+    [[nodiscard]] ResultCode ConvertEvent(OdRxObject* event, QString& text);
 
     // The text operations.
 #define OPERATION(result, name, parameters) [[nodiscard]] virtual result name parameters = 0;

@@ -10,13 +10,13 @@ namespace
 constexpr std::int32_t RecordsEverything = 1;
 
 template <class Event>
-const Event* As(const OdRxObject* event)
+Event* As(OdRxObject* event)
 {
-    return event->queryX(Event::desc()) != nullptr ? static_cast<const Event*>(event) : nullptr;
+    return static_cast<Event*>(event->queryX(Event::desc()));
 }
 } // namespace
 
-ResultCode CZtConverterKVAPIImpl::ConvertEvent(const OdRxObject* event, QString& text)
+ResultCode CZtConverterKVAPIImpl::ConvertEvent(OdRxObject* event, QString& text)
 {
     if (event == nullptr)
     {
@@ -40,7 +40,7 @@ ResultCode CZtConverterKVAPIImpl::ConvertEvent(const OdRxObject* event, QString&
         const bool isViewport = variable->GetVariableName().compareNoCase("CVPORT") == 0;
         return recordingMode_ == RecordsEverything || isViewport ? ConvertSysVarChanged(*variable, text) : ResultNormal;
     }
-    if (const auto* changed = As<CZtPropertyChanged>(event))
+    if (auto* changed = As<CZtPropertyChanged>(event))
     {
         return ObjectConverter().ConvertPropertyChanged(*changed, text);
     }

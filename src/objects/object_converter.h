@@ -25,7 +25,7 @@ public:
     // the event names no class. An object or a change that has no translation gives no text and 5100.
     [[nodiscard]] ResultCode ConvertObjectAdded(const CZtObjectAdded& event, QString& text);
     [[nodiscard]] ResultCode ConvertObjectModified(const CZtObjectModified& event, QString& text);
-    [[nodiscard]] ResultCode ConvertPropertyChanged(const CZtPropertyChanged& event, QString& text);
+    [[nodiscard]] ResultCode ConvertPropertyChanged(CZtPropertyChanged& event, QString& text);
 
     // True for exactly the nine classes of dimensions.
     [[nodiscard]] static bool IsDimensionClass(const OdRxClass* objectClass);

@@ -11,7 +11,10 @@
 class KVHOST_API ConversionObserver
 {
 public:
+    ConversionObserver() = default;
     virtual ~ConversionObserver();
+    ConversionObserver(const ConversionObserver&) = delete;
+    ConversionObserver& operator=(const ConversionObserver&) = delete;
 
     // An event was converted: its text, which may be empty or may be dropped later, and its result code. A command is
     // told after its children.

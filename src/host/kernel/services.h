@@ -16,7 +16,10 @@ class KVHOST_API CZtDatabase : public OdDbDatabase
 class KVHOST_API CZtDocument
 {
 public:
+    CZtDocument() = default;
     virtual ~CZtDocument();
+    CZtDocument(const CZtDocument&) = delete;
+    CZtDocument& operator=(const CZtDocument&) = delete;
 
     // The document's drawing; never null.
     [[nodiscard]] virtual CZtDatabase* GetZtDatabase() = 0;
@@ -26,7 +29,10 @@ public:
 class KVHOST_API CZtSystemSettings
 {
 public:
+    CZtSystemSettings() = default;
     virtual ~CZtSystemSettings();
+    CZtSystemSettings(const CZtSystemSettings&) = delete;
+    CZtSystemSettings& operator=(const CZtSystemSettings&) = delete;
 
     // The language of macros: 0 C++ API, 1 C#, 2 JavaScript, 3 VB.NET, 4 C++ COM, 5 VBA. The host sets it to the
     // language asked for before it calls ConvertJournal.
@@ -36,7 +42,10 @@ public:
 class KVHOST_API CZtSystemServices
 {
 public:
+    CZtSystemServices() = default;
     virtual ~CZtSystemServices();
+    CZtSystemServices(const CZtSystemServices&) = delete;
+    CZtSystemServices& operator=(const CZtSystemServices&) = delete;
 
     [[nodiscard]] virtual const CZtSystemSettings& Settings() const = 0;
 };
@@ -46,7 +55,10 @@ class KVHOST_API CZtHost
 {
 public:
     // Takes the registration back when it is this host's.
+    CZtHost() = default;
     virtual ~CZtHost();
+    CZtHost(const CZtHost&) = delete;
+    CZtHost& operator=(const CZtHost&) = delete;
 
     [[nodiscard]] virtual CZtSystemServices& SystemServices() = 0;
 
