@@ -2,6 +2,10 @@
 # Where the packages are there already or come from elsewhere: make SETUP=true ...
 SETUP ?= tools/setup
 JOBS ?= $(shell nproc)
+# The lines of the journal that make bench converts; a million is the full size.
+BENCH_LINES ?= 100000
+# How long make fuzz runs.
+FUZZ_SECONDS ?= 60
 
 define compile
 @cmake --preset $(1) >/dev/null
@@ -13,7 +17,7 @@ export CTEST_PARALLEL_LEVEL = $(JOBS)
 
 MAKEFLAGS += --no-print-directory
 .DEFAULT_GOAL = help
-.PHONY: help demo build test bench format lint sanitize clean
+.PHONY: help demo build test bench fuzz format lint sanitize clean
 
 help: ## list the commands
 	@sed -n 's/^\([a-z]*\):.* ## /  make \1\t/p' Makefile | expand -t 18
@@ -38,7 +42,15 @@ sanitize: ## run the same tests with the address and undefined-behaviour sanitiz
 bench: ## build and run the benchmarks
 	@$(SETUP) bench
 	$(call compile,bench)
-	@for program in build/release/bin/*_bench; do echo "== $${program##*/}" && $$program || exit; done
+	@echo "== filling" && build/release/bin/fill_bench
+	@echo "== conversion" && build/release/bin/conversion_bench $(BENCH_LINES)
+
+fuzz: ## run the fuzzer on the reader and the conversion
+	@$(SETUP) fuzz
+	$(call compile,fuzz)
+	@mkdir -p build/fuzz/corpus
+	@build/fuzz/bin/journal_fuzz -max_total_time=$(FUZZ_SECONDS) -max_len=16384 -timeout=20 -print_final_stats=1 \
+		-dict=tests/fuzz/journal.dict -artifact_prefix=build/fuzz/ build/fuzz/corpus tests/fuzz/corpus
 
 format: ## lay out the sources as clang-format says
 	@$(SETUP) lint

@@ -7,7 +7,9 @@
 #include <array>
 #include <cstdio>
 #include <cstdlib>
+#include <map>
 #include <memory>
+#include <string>
 
 namespace
 {
@@ -236,6 +238,44 @@ void CheckEqualTexts()
     }
 }
 
+// Prints the times as always and, in the end, how they compare.
+class RatioReporter final : public benchmark::ConsoleReporter
+{
+public:
+    void ReportRuns(const std::vector<Run>& reports) override
+    {
+        ConsoleReporter::ReportRuns(reports);
+        for (const Run& run : reports)
+        {
+            // Of repeated runs the median counts, of single ones the run itself.
+            if (run.run_type != Run::RT_Aggregate || run.aggregate_name == "median")
+                times_[run.run_name.function_name][run.run_name.args] = run.GetAdjustedCPUTime();
+        }
+    }
+
+    void PrintRatios() const
+    {
+        static constexpr std::array names = {"line", "property", "option", "vertices", "selection", "mix"};
+        std::printf("%-10s  %16s  %16s\n", "filling", "chain / machine", "machine / write");
+        for (std::size_t statement = 0; statement < names.size(); ++statement)
+        {
+            const std::string argument = "statement:" + std::to_string(statement);
+            const auto time = [&](const char* function)
+            {
+                const auto found = times_.find(function);
+                const bool measured = found != times_.end() && found->second.contains(argument);
+                return measured ? found->second.at(argument) : 0.0;
+            };
+            const double machine = time("FillStatements<Machine>");
+            std::printf("%-10s  %16.2f  %16.2f\n", names.at(statement), time("FillStatements<Chain>") / machine,
+                        machine / time("Write"));
+        }
+    }
+
+private:
+    std::map<std::string, std::map<std::string, double>> times_; // by function and argument
+};
+
 } // namespace
 
 BENCHMARK(FillStatements<Machine>)->Apply(AllStatements);
@@ -248,6 +288,8 @@ int main(int argc, char** argv)
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return EXIT_FAILURE;
-    benchmark::RunSpecifiedBenchmarks();
+    RatioReporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    reporter.PrintRatios();
     return EXIT_SUCCESS;
 }

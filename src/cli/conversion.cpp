@@ -124,7 +124,9 @@ int RunConversion(Session& session, const Conversion& conversion, ConversionObse
     }
     if (code != ResultNormal)
     {
-        const int error = StorageError(conversion.macro.parent_path(), bytes);
+        // A byte order mark is in the file and in no text.
+        constexpr std::uint64_t byteOrderMark = 3;
+        const int error = StorageError(conversion.macro.parent_path(), bytes + byteOrderMark);
         throw Failure(Failed, "the conversion to " + language + " gave " + std::to_string(code) + " in place of " +
                                   std::to_string(ResultNormal) + (error == 0 ? "" : ": " + ErrorText(error)));
     }

@@ -126,6 +126,13 @@ constexpr const char* supportedClasses[] = {
     "AcDbViewportTableRecord",
 };
 
+// The type of a variable of the C++ API. Two of its classes have no smart pointer.
+QString VariableType(QLatin1String word)
+{
+    const bool isPlain = word == QLatin1String("Region") || word == QLatin1String("ViewTile");
+    return QLatin1String("kv") + word + QLatin1String(isPlain ? "_c*" : "_ptr");
+}
+
 using TypeArray = std::array<ObjectType, std::size(typeRows)>;
 
 const TypeArray& Types()
@@ -135,8 +142,10 @@ const TypeArray& Types()
         TypeArray made;
         std::transform(
             std::begin(typeRows), std::end(typeRows), made.begin(),
-            [](const TypeRow& row) {
-                return ObjectType{QLatin1String(row.className), QLatin1String(row.word), QLatin1String(row.constant)};
+            [](const TypeRow& row)
+            {
+                const QLatin1String word(row.word);
+                return ObjectType{QLatin1String(row.className), word, QLatin1String(row.constant), VariableType(word)};
             });
         return made;
     }();

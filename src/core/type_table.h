@@ -9,9 +9,10 @@ namespace kv
 /// A database class and what stands for it in the generated code.
 struct ObjectType
 {
-    QString className; ///< the database class, such as "AcDbArc"
-    QString word;      ///< the bare API class word, such as "CircleArc"
-    QString constant;  ///< the API object type constant, such as "kvCircleArcType"
+    QString className;    ///< the database class, such as "AcDbArc"
+    QString word;         ///< the bare API class word, such as "CircleArc"
+    QString constant;     ///< the API object type constant, such as "kvCircleArcType"
+    QString variableType; ///< the type of a variable in the C++ API, such as "kvCircleArc_ptr"
 };
 
 /// All object types in the order of the API's list. Each class stands in one row only, but classes can share a word or

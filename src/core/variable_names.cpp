@@ -4,28 +4,16 @@
 #include "core/converter_impl.h"
 #include "core/type_table.h"
 
+#include <QtCore/QHash>
+
+#include <array>
+#include <charconv>
+
 namespace
 {
-// The type of a variable of the C++ API. Two of its classes have no smart pointer.
-QString PointerType(const QString& word)
+QString MakeStem(QString stem, bool isPointerType, PlainPointerMark mark)
 {
-    QString type = QStringLiteral("kv%1_ptr").arg(word);
-    if (type == QLatin1String("kvRegion_ptr"))
-    {
-        type = QStringLiteral("kvRegion_c*");
-    }
-    else if (type == QLatin1String("kvViewTile_ptr"))
-    {
-        type = QStringLiteral("kvViewTile_c*");
-    }
-    return type;
-}
-} // namespace
-
-QString VariableStem(const QString& typeName, PlainPointerMark mark)
-{
-    QString stem = typeName;
-    if (CurrentLanguage() == MacroLanguage::CppApi)
+    if (isPointerType)
     {
         stem.remove(QLatin1String("_ptr"));
         if (mark == PlainPointerMark::Removed)
@@ -35,10 +23,28 @@ QString VariableStem(const QString& typeName, PlainPointerMark mark)
     }
     return stem.toLower();
 }
+} // namespace
+
+const QString& VariableStem(const QString& typeName, PlainPointerMark mark)
+{
+    // There are a few type names, and each object of a journal asks for one several times.
+    static std::array<QHash<QString, QString>, 3> known;
+    const bool isPointerType = CurrentLanguage() == MacroLanguage::CppApi;
+    QHash<QString, QString>& stems = known.at(!isPointerType ? 0 : mark == PlainPointerMark::Removed ? 1 : 2);
+    auto found = stems.constFind(typeName);
+    if (found == stems.constEnd())
+    {
+        found = stems.insert(typeName, MakeStem(typeName, isPointerType, mark));
+    }
+    return *found;
+}
 
 QString VariableName(const QString& typeName, std::int32_t number, PlainPointerMark mark)
 {
-    return VariableStem(typeName, mark) + QString::number(number);
+    const QString& stem = VariableStem(typeName, mark);
+    std::array<char, 16> digits{};
+    const char* end = std::to_chars(digits.begin(), digits.end(), number).ptr;
+    return stem + QLatin1String(digits.data(), static_cast<int>(end - digits.data()));
 }
 
 ResultCode CZtConverterKVAPIImpl::GetObjectTypeNames(const OdRxClass* objectClass, QString& name, QString& type)
@@ -48,12 +54,8 @@ ResultCode CZtConverterKVAPIImpl::GetObjectTypeNames(const OdRxClass* objectClas
     {
         return ResultError;
     }
-    name = row->word;
+    name = CurrentLanguage() == MacroLanguage::CppApi ? row->variableType : row->word;
     type = row->constant;
-    if (CurrentLanguage() == MacroLanguage::CppApi)
-    {
-        name = PointerType(name);
-    }
     return ResultNormal;
 }
 

@@ -17,5 +17,5 @@ enum class PlainPointerMark
 // "kvLine_ptr" and 5 give "kvline5" in the C++ API, "Line" and 5 "line5" in the other languages.
 [[nodiscard]] QString VariableName(const QString& typeName, std::int32_t number, PlainPointerMark mark);
 
-// The same without the number.
-[[nodiscard]] QString VariableStem(const QString& typeName, PlainPointerMark mark);
+// The same without the number. The reference holds until the next call.
+[[nodiscard]] const QString& VariableStem(const QString& typeName, PlainPointerMark mark);

@@ -81,7 +81,7 @@ ResultCode CZtConverterKVAPIObject::ConvertPropertyChanged(CZtPropertyChanged& e
         return ResultError;
     }
     // The event is itself the one property.
-    PropertyList properties = PropertiesOf({CZtPropertyElementPtr(&event)});
+    PropertyList properties(event, words_, Converter().GetHostContext());
     return ConvertProperties(event.GetObjectClass(), event.GetObjectHandle(), properties, false, text);
 }
 

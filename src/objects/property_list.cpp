@@ -14,22 +14,33 @@ bool IsGroup(const char* name)
 }
 } // namespace
 
-CZtPropertyList::const_iterator PropertyList::Find(const char* name) const
+PropertyList::PropertyList(const CZtPropertyList& elements, const DisplayWords& words, std::uint64_t hostContext)
+    : words_(words), hostContext_(hostContext)
+{
+    elements_.reserve(elements.size());
+    for (const CZtPropertyElementPtr& element : elements)
+    {
+        elements_.push_back(element.get());
+    }
+}
+
+PropertyList::Elements::const_iterator PropertyList::Find(const char* name) const
 {
     if (IsGroup(name))
     {
         return std::ranges::find_if(elements_,
-                                    [&](const CZtPropertyElementPtr& element) {
+                                    [&](const CZtPropertyElement* element) {
                                         return words_.Matches(DisplayWords::Context::PropertyGroups, name,
                                                               element->GetGroup(), Qt::CaseInsensitive);
                                     });
     }
+    const QLatin1String plain(name);
+    const QString& word = words_.Translate(DisplayWords::Context::PropertyTypes, name);
     return std::ranges::find_if(elements_,
-                                [&](const CZtPropertyElementPtr& element)
+                                [&](const CZtPropertyElement* element)
                                 {
                                     const QString& own = element->GetName();
-                                    return own == QLatin1String(name) ||
-                                           words_.Matches(DisplayWords::Context::PropertyTypes, name, own);
+                                    return own == plain || own == word;
                                 });
 }
 
@@ -45,7 +56,7 @@ CZtVariant PropertyList::TakeProperty(const char* name, ConsumedProperties* cons
     {
         return {};
     }
-    const CZtPropertyElementPtr element = *found;
+    const CZtPropertyElement* element = *found;
     elements_.erase(found);
     if (tag != nullptr)
     {
@@ -76,13 +87,11 @@ double PropertyList::TakeDouble(const char* name, double missing, ConsumedProper
 
 void PropertyList::DropConsumed(const ConsumedProperties& consumed)
 {
-    for (const CZtPropertyElementPtr& used : consumed)
+    for (const CZtPropertyElement* used : consumed)
     {
-        const auto same = std::ranges::find_if(elements_,
-                                               [&](const CZtPropertyElementPtr& element) {
-                                                   return element->GetName().compare(used->GetName()) == 0 &&
-                                                          element->GetGroup().compare(used->GetGroup()) == 0;
-                                               });
+        const auto same = std::ranges::find_if(
+            elements_, [&](const CZtPropertyElement* element)
+            { return element->GetName() == used->GetName() && element->GetGroup() == used->GetGroup(); });
         if (same != elements_.end())
         {
             elements_.erase(same);

@@ -254,6 +254,58 @@ class Failures(ProgramTest):
         self.refused("Permission denied", "out", "--force")
 
 
+class BrokenJournals(ProgramTest):
+    """Journals broken at random: a clear message or a macro, and no other file."""
+
+    def broken(self, text, number):
+        choose = random.Random(number)
+        place = choose.randrange(len(text))
+        way = number % 6
+        if way == 0:
+            return text[:place]
+        if way == 1:
+            return text[:place] + bytes([choose.randrange(256)]) + text[place + 1:]
+        if way == 2:
+            return text[:place] + choose.choice([b"\xff", b"\xed\xa0\x80", b"\0"]) + text[place:]
+        if way == 3:
+            return text[:place] + b" " * (3 << 20) + text[place:]
+        # The others are JSON still: a value of another kind, a key less.
+        records = [json.loads(line) for line in text.splitlines()]
+        part = choose.choice(records)
+        while True:
+            key = choose.choice(list(part) if isinstance(part, dict) else range(len(part)))
+            if not isinstance(part[key], (dict, list)) or not part[key] or choose.random() < 0.2:
+                break
+            part = part[key]
+        if way == 4:
+            del part[key]
+        else:
+            part[key] = choose.choice([None, True, -1, 1.5, 1e308, 10**30, "", "%1", [], {}, {"int": 1}])
+        return "".join(json.dumps(record) + "\n" for record in records).encode()
+
+    def test_are_told_or_converted(self):
+        source = pathlib.Path(os.environ["KV_SOURCE_DIR"]) / "examples/curves.jsonl"
+        journal = self.folder / "broken.jsonl"
+        seen = set()
+        for number in range(20 if os.environ.get("KV_SANITIZED") == "1" else 100):
+            journal.write_bytes(self.broken(source.read_bytes(), number))
+            language, extension = list(LANGUAGES.items())[number % len(LANGUAGES)]
+            before = tree(self.folder)
+            done = subprocess.run([PROGRAM, "convert", "broken.jsonl", "--language", language, "--output", "out"],
+                                  cwd=self.folder, capture_output=True, timeout=60)
+            with self.subTest(number=number, stderr=done.stderr):
+                self.assertIn(done.returncode, (0, 1, 2))
+                if done.returncode == 0:
+                    self.assertTrue((self.folder / f"out/broken{extension}").is_file())
+                else:
+                    start = rb"broken\.jsonl:\d+: " if done.returncode == 2 else rb"kvmacro: "
+                    self.assertRegex(done.stderr, rb"(?m)^" + start)
+                    self.assert_same(tree(self.folder), before)
+            shutil.rmtree(self.folder / "out", ignore_errors=True)
+            seen.add(done.returncode)
+        self.assertLessEqual({0, 2}, seen)
+
+
 class Interruptions(ProgramTest):
     def start(self, name, output, *more):
         return subprocess.Popen([PROGRAM, "convert", f"{name}.jsonl", "--language", "cpp", "--output", output, "--force",

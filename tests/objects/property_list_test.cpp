@@ -43,16 +43,20 @@ public:
     }
 };
 
-PropertyList List(const DisplayWords& words, std::initializer_list<Element*> elements)
+// Keeps the elements, as an event does.
+struct Elements
 {
-    return {CZtPropertyList(elements.begin(), elements.end()), words, 100};
-}
+    Elements(std::initializer_list<Element*> elements) : list(elements.begin(), elements.end()) {}
+    [[nodiscard]] PropertyList List(const DisplayWords& words) const { return {list, words, 100}; }
+
+    CZtPropertyList list;
+};
 
 TEST(PropertyList, TakesTheFirstElementOfANameOnce)
 {
     const DisplayWords words;
-    PropertyList list =
-        List(words, {new Element("radius", "", 1), new Element("Radius", "A", 2), new Element("Radius", "B", 3)});
+    const Elements elements{new Element("radius", "", 1), new Element("Radius", "A", 2), new Element("Radius", "B", 3)};
+    PropertyList list = elements.List(words);
     ConsumedProperties consumed;
     CZtVariant tag;
     EXPECT_EQ(list.TakeProperty("Radius", &consumed, &tag).GetInt32(), 2);
@@ -70,8 +74,9 @@ TEST(PropertyList, KnowsTheWordsOfTheUser)
 {
     const German user;
     const DisplayWords words;
-    PropertyList list = List(words, {new Element("Halbmesser", "", 1), new Element("Radius", "", 2),
-                                     new Element("TAG1", "attribute", 3), new Element("TAG2", "BlockAttributes", 4)});
+    const Elements elements{new Element("Halbmesser", "", 1), new Element("Radius", "", 2),
+                            new Element("TAG1", "attribute", 3), new Element("TAG2", "BlockAttributes", 4)};
+    PropertyList list = elements.List(words);
     EXPECT_EQ(list.TakeProperty("Radius").GetInt32(), 1);
     EXPECT_EQ(list.TakeProperty("Radius").GetInt32(), 2);
     // The group of block attributes is told by its word alone, in any case; the tag is the attribute's name.
@@ -85,15 +90,17 @@ TEST(PropertyList, KnowsTheWordsOfTheUser)
 TEST(PropertyList, DropsConsumedOnesByNameAndGroup)
 {
     const DisplayWords words;
-    PropertyList taken = List(words, {new Element("Start X", "Geometry", 1), new Element("Start Z", "", 3)});
+    const Elements given{new Element("Start X", "Geometry", 1), new Element("Start Z", "", 3)};
+    PropertyList taken = given.List(words);
     ConsumedProperties consumed;
     const OdGePoint3d point = taken.TakePoint("Start X", "Start Y", "Start Z", &consumed);
     EXPECT_EQ(point.x, 1.0);
     EXPECT_EQ(point.y, 0.0);
     EXPECT_EQ(point.z, 3.0);
 
-    PropertyList list = List(words, {new Element("Start X", "geometry", 5), new Element("Start X", "Geometry", 6),
-                                     new Element("Start X", "Geometry", 7), new Element("Start Z", "Other", 8)});
+    const Elements others{new Element("Start X", "geometry", 5), new Element("Start X", "Geometry", 6),
+                          new Element("Start X", "Geometry", 7), new Element("Start Z", "Other", 8)};
+    PropertyList list = others.List(words);
     list.DropConsumed(consumed);
     EXPECT_EQ(list.TakeProperty("Start X").GetInt32(), 5);
     EXPECT_EQ(list.TakeProperty("Start X").GetInt32(), 7);
