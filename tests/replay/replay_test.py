@@ -17,8 +17,10 @@ HERE = SOURCE / "tests" / "replay"
 sys.path.insert(0, str(HERE))
 
 import api  # noqa: E402
-import cpp_macros  # noqa: E402
 import story  # noqa: E402
+from cpp_macros import Cpp  # noqa: E402
+from csharp_macros import CSharp  # noqa: E402
+from language import Refused  # noqa: E402
 
 EXAMPLES = [SOURCE / "examples" / name for name in ("bracket.jsonl", "curves.jsonl")]
 DRAWINGS = sorted((SOURCE / "examples" / "drawings").glob("*.jsonl"))
@@ -49,7 +51,7 @@ LANGUAGES = []
 
 def setUpModule():
     unittest.addModuleCleanup(SCRATCH.cleanup)
-    for language in (cpp_macros.Language,):
+    for language in (Cpp, CSharp):
         folder = Path(SCRATCH.name) / f"{language.name}-stand-ins"
         folder.mkdir()
         LANGUAGES.append(language(folder))
@@ -125,24 +127,26 @@ class ReplayTest(unittest.TestCase):
     def run_macro(self, journal, language):
         macro = self.convert(journal, language)
         refused = refused_texts(language.name)
-        try:
-            return language.story(language.run(macro))
-        except cpp_macros.DoesNotCompile as refusal:
-            text = macro.read_text(encoding="utf-8-sig")
-            for error in refusal.errors:
-                operation = next((o for o, (message, _) in refused.items() if re.search(message, error)), None)
-                self.assertIsNotNone(operation, f"{journal.name} in {language.name}: {refusal}")
-                self.needed.add((language.name, operation))
-                text = re.sub(refused[operation][1], "", text)
-            macro.write_text(text, encoding="utf-8")
-            return language.story(language.run(macro))
+        while True:
+            try:
+                return language.story(language.run(macro))
+            except Refused as refusal:
+                before = text = macro.read_text(encoding="utf-8-sig")
+                for error in refusal.errors:
+                    operation = next((o for o, (message, _) in refused.items() if re.search(message, error)), None)
+                    self.assertIsNotNone(operation, f"{journal.name} in {language.name}: {refusal}")
+                    self.needed.add((language.name, operation))
+                    text = re.sub(refused[operation][1], "", text)
+                self.assertNotEqual(before, text, f"{journal.name} in {language.name}: {refusal}")
+                macro.write_text(text, encoding="utf-8")
 
     def assert_same_story(self, journal):
         expected = story.of_journal(journal)
         self.assertGreater(len(expected), 40)
         for language in LANGUAGES:
             with self.subTest(language=language.name, journal=journal.name):
-                self.assertIsNone(story.first_difference(expected, self.told(journal, language)))
+                steps = expected if language.records_selections else story.without_selected(expected)
+                self.assertIsNone(story.first_difference(steps, self.told(journal, language)))
 
     def test_examples_do_what_their_journals_tell(self):
         for journal in EXAMPLES:
@@ -195,7 +199,7 @@ class CppStandInsTest(unittest.TestCase):
         for text in ("line->put_Colour( color );", "line->put_Layer( 5 );", "line->put_Radius( 1.0 );",
                      "line->put_LineWeight( kvLnWt_036 );", "line->put_LineWeight( kvCircleType );",
                      "sketch->InsertLine( 0, 0, 0, 1, 1, &line );", "sketch->InsertCircle( 0, 0, 0, 1, &line );"):
-            with self.subTest(text), self.assertRaises(cpp_macros.DoesNotCompile):
+            with self.subTest(text), self.assertRaises(Refused):
                 self.compile("void macro( kvLine_ptr line, kvColor_ptr color, kvSketchManager_ptr sketch )\n"
                              f"{{ {text} }}\n")
 
