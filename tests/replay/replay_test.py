@@ -17,9 +17,11 @@ HERE = SOURCE / "tests" / "replay"
 sys.path.insert(0, str(HERE))
 
 import api  # noqa: E402
+import browser  # noqa: E402
 import story  # noqa: E402
 from cpp_macros import Cpp  # noqa: E402
 from csharp_macros import CSharp  # noqa: E402
+from javascript_macros import JavaScript  # noqa: E402
 from language import Refused  # noqa: E402
 
 EXAMPLES = [SOURCE / "examples" / name for name in ("bracket.jsonl", "curves.jsonl")]
@@ -51,10 +53,14 @@ LANGUAGES = []
 
 def setUpModule():
     unittest.addModuleCleanup(SCRATCH.cleanup)
-    for language in (Cpp, CSharp):
+    for language in (Cpp, CSharp, JavaScript):
         folder = Path(SCRATCH.name) / f"{language.name}-stand-ins"
         folder.mkdir()
         LANGUAGES.append(language(folder))
+
+
+def language_named(name):
+    return next(language for language in LANGUAGES if language.name == name)
 
 
 def random_journal(chance):
@@ -110,13 +116,17 @@ class ReplayTest(unittest.TestCase):
     stories = {}
     needed = set()
 
+    def macro(self, journal, language):
+        return self.scratch / language.name / journal.stem / f"{journal.stem}.{language.extension}"
+
     def convert(self, journal, language):
         """The converted macro's file."""
-        folder = self.scratch / language.name / journal.stem
+        macro = self.macro(journal, language)
+        folder = macro.parent
         done = subprocess.run([PROGRAM, "convert", journal, "--language", language.name, "--output", folder, "--force"],
                               capture_output=True, text=True, check=False)
         self.assertEqual(done.returncode, 0, done.stderr)
-        return folder / f"{journal.stem}.{language.extension}"
+        return macro
 
     def told(self, journal, language):
         """What the journal's macro does, without the texts that its language is known to refuse; kept."""
@@ -169,6 +179,20 @@ class ReplayTest(unittest.TestCase):
                     for expected in drawn(story.of_journal(journal)):
                         self.assertTrue(any(story.same(expected, found) for found in rest), f"not drawn: {expected}")
 
+    def test_buttons_do_in_a_browser_what_the_scripts_do(self):
+        language = language_named("javascript")
+        journals = [*EXAMPLES, *DRAWINGS]
+        for journal in journals:
+            self.told(journal, language)
+        pages = [self.macro(journal, language) for journal in journals]
+        recorded, asked = browser.run_pages(pages, language.page_script())
+        for page, found in zip(pages, recorded):
+            with self.subTest(page=page.name):
+                self.assertEqual(found["errors"], [])
+                self.assertEqual(found["calls"], language.run(page))
+        for name in asked:
+            self.assertTrue(name == "kjConnect.js" or name[2:-3] in api.classes(), f"{name} is no class's file")
+
     def test_each_refused_text_is_met(self):
         for language in LANGUAGES:
             for journal in (*EXAMPLES, *DRAWINGS):
@@ -187,7 +211,7 @@ class ReplayTest(unittest.TestCase):
 
 class CppStandInsTest(unittest.TestCase):
     def compile(self, text):
-        language = next(language for language in LANGUAGES if language.name == "cpp")
+        language = language_named("cpp")
         source = language.folder / "text.cpp"
         source.write_text(text, encoding="utf-8")
         language.compile(["-fsyntax-only", "-include", "api.h", source.name])
