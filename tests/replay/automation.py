@@ -1,29 +1,36 @@
 """How the API's members look to automation: C#, JavaScript and COM call them with results in place of out arguments."""
 from collections import namedtuple
 
-# Which arguments the caller writes and which one the member returns, as indices; result is None where nothing returns.
-Shape = namedtuple("Shape", "written result")
-
-# What isn't the rule: here the returned value is the kind of the answer.
-RETURNED = {"PromptForKeyword2": 7}
+# A member with the arguments that the caller writes and the one that the member returns, as indices; the result is None
+# where nothing is returned.
+Method = namedtuple("Method", "member written result")
 
 
-def _returned(member):
-    if member.name in RETURNED:
-        return RETURNED[member.name]
+def method(member, returned):
+    """The last value that a member gives back is returned, unless it is a number with a fraction or an enumeration.
+
+    What a language has otherwise, `returned` holds: member name -> index or None.
+    """
+    result = None
     for index in reversed(range(len(member.arguments))):
         argument = member.arguments[index]
         if argument.way == "in":
             break
         if argument.way == "out" and argument.type != "real" and not argument.type.endswith("_e"):
-            return index
-    return None
+            result = index
+            break
+    result = returned.get(member.name, result)
+    return Method(member, [index for index in range(len(member.arguments)) if index != result], result)
 
 
-def shape(member):
-    """The last value that a member gives back is returned, unless it is a number with a fraction or an enumeration."""
-    result = _returned(member)
-    return Shape([index for index in range(len(member.arguments)) if index != result], result)
+def methods(found, returned):
+    """The methods of a class. Those that differ in the result alone are one, the one with it."""
+    kept = {}
+    for member in sorted(found.members, key=lambda m: len(m.arguments), reverse=True):
+        if not member.name.startswith(("put_", "get_")):
+            made = method(member, returned)
+            kept.setdefault((member.name, *(member.arguments[index] for index in made.written)), made)
+    return list(kept.values())
 
 
 def properties(found):

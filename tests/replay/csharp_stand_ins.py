@@ -8,6 +8,8 @@ import automation
 PLAIN = {"real": "double", "int": "int", "bool": "bool", "text": "string", "reals": "double[]", "ints": "int[]",
          "texts": "object[]", "objects": "object[]", "object": "object"}
 
+RETURNED = {"PromptForKeyword2": 7}  # the kind of the answer, not its text
+
 
 def type_name(word):
     if word in PLAIN:
@@ -50,9 +52,8 @@ def recording(argument, index):
     return f"{name} = {given(argument.type)};"
 
 
-def method(owner, member):
+def method(owner, member, written, result):
     """A method's declaration in its interface, and its definition in the class."""
-    written, result = automation.shape(member)
     parameters = ", ".join(parameter(member.arguments[index], index) for index in written)
     returned = member.result or (member.arguments[result] if result is not None else None)
     kind = result_type(returned.type) if returned else "void"
@@ -87,13 +88,7 @@ def source():
         parts.append(f"public enum {enumeration} {{ " + ", ".join(name for name, _ in constants) + " }")
     bodies = []
     for name, found in api.classes().items():
-        # Members that differ in the result alone are one; the longer has the result.
-        methods = {}
-        for member in sorted(found.members, key=lambda m: len(m.arguments), reverse=True):
-            if not member.name.startswith(("put_", "get_")):
-                texts = method(name, member)
-                methods.setdefault(texts[0].partition(" ")[2], texts)
-        texts = list(methods.values())
+        texts = [method(name, *found_method) for found_method in automation.methods(found, RETURNED)]
         texts += [property_texts(name, word, *types) for word, types in automation.properties(found).items()]
         base = f" : {type_name(found.base)}" if found.base else ""
         own = type_name(name).removeprefix("Morvane.")

@@ -25,6 +25,7 @@ class Language:
     # An API array records what is added to it; where arrays are the language's own, the entries of a selection are
     # only in the macro's text.
     records_selections = True
+    runs = True       # or is only compiled
 
     def __init__(self, folder):
         """Prepares the stand-ins in a folder of their own."""
