@@ -203,6 +203,6 @@ ResultCode CZtConverterKVAPIImpl::ConvertUserCommand(MacroWriter& writer, const 
             writer.Write(nullptr, blockEnd);
         }
     }
-    writer.Converted(command, QString(), ResultNormal);
+    writer.Converted(command, allEmpty ? QString() : blockHead, ResultNormal);
     return ResultNormal;
 }

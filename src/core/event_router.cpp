@@ -10,13 +10,13 @@ namespace
 constexpr std::int32_t RecordsEverything = 1;
 
 template <class Event>
-const Event* As(const OdRxObject* event)
+Event* As(OdRxObject* event)
 {
-    return event->queryX(Event::desc()) != nullptr ? static_cast<const Event*>(event) : nullptr;
+    return static_cast<Event*>(event->queryX(Event::desc()));
 }
 } // namespace
 
-ResultCode CZtConverterKVAPIImpl::ConvertEvent(const OdRxObject* event, QString& text)
+ResultCode CZtConverterKVAPIImpl::ConvertEvent(OdRxObject* event, QString& text)
 {
     if (event == nullptr)
     {
@@ -40,7 +40,7 @@ ResultCode CZtConverterKVAPIImpl::ConvertEvent(const OdRxObject* event, QString&
         const bool isViewport = variable->GetVariableName().compareNoCase("CVPORT") == 0;
         return recordingMode_ == RecordsEverything || isViewport ? ConvertSysVarChanged(*variable, text) : ResultNormal;
     }
-    if (const auto* changed = As<CZtPropertyChanged>(event))
+    if (auto* changed = As<CZtPropertyChanged>(event))
     {
         return ObjectConverter().ConvertPropertyChanged(*changed, text);
     }
@@ -76,23 +76,65 @@ void CZtConverterKVAPIImpl::FetchChangedLayer(const CZtObjectModified& event, QS
 
 CZtConverterKVAPIImpl::ActionHandler CZtConverterKVAPIImpl::HandlerOf(std::int32_t actionId)
 {
-    // Indexed by the number of the action.
-    static constexpr std::array<ActionHandler, 49> handlers = []
-    {
-        std::array<ActionHandler, 49> table{};
-        table[31] = &CZtConverterKVAPIImpl::ConvertOption;
-        return table;
-    }();
-    return handlers.at(static_cast<std::size_t>(actionId));
+    using Walk = CZtConverterKVAPIImpl;
+    // Indexed by the number of the action; the twelve numbers of element colours share their handler.
+    static constexpr std::array<ActionHandler, 49> handlers = {
+        &Walk::ConvertMirror,
+        &Walk::ConvertStretch,
+        &Walk::ConvertCopy,
+        &Walk::ConvertMove,
+        &Walk::ConvertRotate,
+        &Walk::ConvertScale,
+        &Walk::ConvertTrim,
+        &Walk::ConvertExtend,
+        &Walk::ConvertFillet,
+        &Walk::ConvertChamfer,
+        &Walk::ConvertSelectByMethods,
+        &Walk::ConvertSelectionFilter,
+        &Walk::ConvertCCS,
+        &Walk::ConvertSheets,
+        &Walk::ConvertBackground,
+        &Walk::ConvertEmbeddedObject,
+        &Walk::ConvertPolyline2DBlock,
+        &Walk::ConvertErase,
+        &Walk::ConvertHatch,
+        &Walk::ConvertElementColor,
+        &Walk::ConvertElementColor,
+        &Walk::ConvertElementColor,
+        &Walk::ConvertElementColor,
+        &Walk::ConvertElementColor,
+        &Walk::ConvertElementColor,
+        &Walk::ConvertElementColor,
+        &Walk::ConvertElementColor,
+        &Walk::ConvertElementColor,
+        &Walk::ConvertElementColor,
+        &Walk::ConvertElementColor,
+        &Walk::ConvertElementColor,
+        &Walk::ConvertOption,
+        &Walk::ConvertInterfaceFileLocation,
+        &Walk::ConvertSystemFileLocation,
+        &Walk::ConvertDrawingSupportFileLocation,
+        &Walk::ConvertAddToGroup,
+        &Walk::ConvertRemoveFromGroup,
+        &Walk::ConvertAttributeValue,
+        &Walk::ConvertPolylineEdit,
+        &Walk::ConvertBackgroundOptions,
+        &Walk::ConvertPolyline3DVertex,
+        &Walk::ConvertZoom,
+        &Walk::ConvertRegion,
+        &Walk::ConvertActivateViewport,
+        &Walk::ConvertPolygonalViewport,
+        &Walk::ConvertPrintStyle,
+        &Walk::ConvertClipBoundary,
+        &Walk::ConvertViewTiles,
+        &Walk::ConvertJoin,
+    };
+    const bool isKnown = actionId >= 0 && actionId < static_cast<std::int32_t>(handlers.size());
+    return isKnown ? handlers.at(static_cast<std::size_t>(actionId)) : nullptr;
 }
 
 ResultCode CZtConverterKVAPIImpl::ConvertCustomAction(const CZtCustomAction& action, QString& text)
 {
-    const std::int32_t id = action.GetActionId();
-    if (id < 0 || id > 48)
-    {
-        return ResultError;
-    }
-    const ActionHandler handler = HandlerOf(id);
-    return handler != nullptr ? (this->*handler)(action, text) : ResultNormal;
+    const ActionHandler handler = HandlerOf(action.GetActionId());
+    return handler != nullptr ? (this->*handler)(action, text) : ResultError;
 }

@@ -65,6 +65,19 @@ void Drawing::makeCurrentLayout(const QString& name)
     entries_[currentLayout_] = {layout, MakeStoredObject(*this, currentLayout_, layout, std::move(values)), false};
 }
 
+OdDbObjectId Drawing::getGroupId(const OdString& name)
+{
+    for (const OdDbHandle handle : described_)
+    {
+        const Entry& entry = entries_.at(handle);
+        if (entry.objectClass == OdDbGroup::desc() && static_cast<const OdDbGroup&>(*entry.object).getName() == name)
+        {
+            return getOdDbObjectId(handle);
+        }
+    }
+    return {};
+}
+
 OdDbObjectPtr Drawing::describedObject(OdDbHandle handle) const
 {
     const auto found = entries_.find(handle);

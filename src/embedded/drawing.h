@@ -42,6 +42,12 @@ public:
     [[nodiscard]] OdDbObjectId getOdDbObjectId(OdDbHandle handle) override;
     [[nodiscard]] OdDbObjectPtr openObject(OdDbHandle handle) override;
     [[nodiscard]] OdDbObjectId currentLayoutId() override { return getOdDbObjectId(currentLayout_); }
+    [[nodiscard]] OdDbObjectId getGroupId(const OdString& name) override;
+    [[nodiscard]] double filletRadius() const override { return values_.get<double>("filletRadius"); }
+    [[nodiscard]] double chamferFirstDistance() const override { return values_.get<double>("chamferFirstDistance"); }
+    [[nodiscard]] double chamferSecondDistance() const override { return values_.get<double>("chamferSecondDistance"); }
+    [[nodiscard]] double chamferLength() const override { return values_.get<double>("chamferLength"); }
+    [[nodiscard]] double chamferAngle() const override { return values_.get<double>("chamferAngle"); }
 
 private:
     struct Entry

@@ -24,6 +24,9 @@ public:
     }
 
     std::int16_t MacroLanguage() const override { return macroLanguage_; }
+    std::int16_t ChamferMode() const override { return number(QStringLiteral("CHAMMODE")); }
+    std::int16_t EdgeMode() const override { return number(QStringLiteral("EDGEMODE")); }
+    std::int16_t TrimMode() const override { return number(QStringLiteral("TRIMMODE")); }
 
 private:
     QHash<QString, QVariant> values_;

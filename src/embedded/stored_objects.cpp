@@ -104,6 +104,13 @@ public:
     }
 };
 
+class Group final : public Stored<OdDbGroup>
+{
+public:
+    using Stored::Stored;
+    OdString getName() const override { return text("name"); }
+};
+
 class Layout final : public Stored<OdDbLayout>
 {
 public:
@@ -111,6 +118,54 @@ public:
     OdString getLayoutName() const override { return text("name"); }
     bool modelType() const override { return flag("modelType"); }
     OdString getCurrentStyleSheet() const override { return text("printStyleSheet"); }
+};
+
+class Line final : public Stored<OdDbLine>
+{
+public:
+    using Stored::Stored;
+    OdGePoint3d startPoint() const override { return point("startPoint"); }
+    OdGePoint3d endPoint() const override { return point("endPoint"); }
+};
+
+// A centre, as round curves have it.
+template <class Base>
+class WithCenter : public Stored<Base>
+{
+public:
+    using Stored<Base>::Stored;
+    OdGePoint3d center() const override { return this->point("center"); }
+};
+
+class Circle final : public WithCenter<OdDbCircle>
+{
+public:
+    using WithCenter::WithCenter;
+    double radius() const override { return number("radius"); }
+};
+
+template <class Base>
+class WithAngles : public WithCenter<Base>
+{
+public:
+    using WithCenter<Base>::WithCenter;
+    double startAngle() const override { return this->number("startAngle"); }
+    double endAngle() const override { return this->number("endAngle"); }
+};
+
+class Arc final : public WithAngles<OdDbArc>
+{
+public:
+    using WithAngles::WithAngles;
+    double radius() const override { return number("radius"); }
+};
+
+class Ellipse final : public WithAngles<OdDbEllipse>
+{
+public:
+    using WithAngles::WithAngles;
+    OdGePoint3d majorAxis() const override { return point("majorAxis"); }
+    double minorRadius() const override { return number("minorRadius"); }
 };
 
 class MText final : public Stored<OdDbMText>
@@ -300,17 +355,17 @@ void addOwn(FactoryTable& table)
 FactoryTable allFactories()
 {
     FactoryTable table;
-    addPlain<OdDbObject, OdDbEntity, OdDbCurve, OdDbLine, OdDbCircle, OdDbArc, OdDbEllipse, OdDbPoint, OdDbRay,
-             OdDbXline, OdDbPolyline, OdDb2dPolyline, OdDb3dPolyline, OdDbSpline, OdDbPolygonMesh, OdDbPolyFaceMesh,
-             OdDbFace, OdDbSolid, OdDbTrace, OdDbText, OdDbAttributeDefinition, OdDbBlockReference, OdDbRasterImage,
-             OdDbShape, OdDbViewport, OdDbHatch, OdDbRegion, OdDbOle2Frame, OdDbDimension, OdDbRadialDimensionLarge,
-             OdDbMlineStyle, OdDbTableStyle, OdDbGroup>(table);
+    addPlain<OdDbObject, OdDbEntity, OdDbCurve, OdDbPoint, OdDbRay, OdDbXline, OdDbPolyline, OdDb2dPolyline,
+             OdDb3dPolyline, OdDbSpline, OdDbPolygonMesh, OdDbPolyFaceMesh, OdDbFace, OdDbSolid, OdDbTrace, OdDbText,
+             OdDbAttributeDefinition, OdDbBlockReference, OdDbRasterImage, OdDbShape, OdDbViewport, OdDbHatch,
+             OdDbRegion, OdDbOle2Frame, OdDbDimension, OdDbRadialDimensionLarge, OdDbMlineStyle, OdDbTableStyle>(table);
     addSymbols<OdDbSymbolTableRecord, OdDbLayerTableRecord, OdDbLinetypeTableRecord, OdDbDimStyleTableRecord,
                OdDbViewportTableRecord>(table);
-    addOwn<TextStyle, View, Block, Layout, MText, Leader, Tolerance, RichLine, Table, RotatedDimension,
-           TwoLineAngularDimension, ArcDimension, OrdinateDimension, WithChord<OdDbDiametricDimension>,
-           WithChord<OdDbRadialDimension>, WithDimensionLine<Stored<OdDbAlignedDimension>>,
-           WithCenterAndArc<Stored<OdDb3PointAngularDimension>>>(table);
+    addOwn<Line, Circle, Arc, Ellipse, TextStyle, View, Block, Group, Layout, MText, Leader, Tolerance, RichLine, Table,
+           RotatedDimension, TwoLineAngularDimension, ArcDimension, OrdinateDimension,
+           WithChord<OdDbDiametricDimension>, WithChord<OdDbRadialDimension>,
+           WithDimensionLine<Stored<OdDbAlignedDimension>>, WithCenterAndArc<Stored<OdDb3PointAngularDimension>>>(
+        table);
     return table;
 }
 } // namespace

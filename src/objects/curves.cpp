@@ -63,6 +63,13 @@ QString CZtConverterKVAPIObject::CreateEllipse(const Creation& creation)
     const double minorRadius = properties.TakeDouble("Minor radius", 1.0, &consumed);
     const double startAngle = properties.TakeDouble("Start angle", 0.0, &consumed);
     const double endAngle = properties.TakeDouble("End angle", 0.0, &consumed);
+    return InsertEllipse(variable, center, axis, minorRadius, startAngle, endAngle);
+}
+
+QString CZtConverterKVAPIObject::InsertEllipse(const QString& variable, const OdGePoint3d& center,
+                                               const OdGePoint3d& axis, double minorRadius, double startAngle,
+                                               double endAngle)
+{
     // The API's call has no Z.
     const OdGePoint2d major1{center.x + axis.x, center.y + axis.y};
     const OdGePoint2d major2{center.x - axis.x, center.y - axis.y};

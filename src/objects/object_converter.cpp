@@ -74,15 +74,14 @@ ResultCode CZtConverterKVAPIObject::ConvertObjectModified(const CZtObjectModifie
     return ResultNormal;
 }
 
-ResultCode CZtConverterKVAPIObject::ConvertPropertyChanged(const CZtPropertyChanged& event, QString& text)
+ResultCode CZtConverterKVAPIObject::ConvertPropertyChanged(CZtPropertyChanged& event, QString& text)
 {
     if (event.GetObjectClass() == nullptr)
     {
         return ResultError;
     }
-    // The event is itself the one property; it belongs to the host and is only lent to the list.
-    auto* element = const_cast<CZtPropertyChanged*>(&event);
-    PropertyList properties = PropertiesOf({CZtPropertyElementPtr(element)});
+    // The event is itself the one property.
+    PropertyList properties = PropertiesOf({CZtPropertyElementPtr(&event)});
     return ConvertProperties(event.GetObjectClass(), event.GetObjectHandle(), properties, false, text);
 }
 

@@ -25,7 +25,7 @@ public:
     // the event names no class. An object or a change that has no translation gives no text and 5100.
     [[nodiscard]] ResultCode ConvertObjectAdded(const CZtObjectAdded& event, QString& text);
     [[nodiscard]] ResultCode ConvertObjectModified(const CZtObjectModified& event, QString& text);
-    [[nodiscard]] ResultCode ConvertPropertyChanged(const CZtPropertyChanged& event, QString& text);
+    [[nodiscard]] ResultCode ConvertPropertyChanged(CZtPropertyChanged& event, QString& text);
 
     // True for exactly the nine classes of dimensions.
     [[nodiscard]] static bool IsDimensionClass(const OdRxClass* objectClass);
@@ -34,6 +34,11 @@ public:
     // back fetches the object by its handle; it is empty for a known one. A class that the API doesn't have gives an
     // empty variable and no text.
     [[nodiscard]] QString GetObjectByHandle(OdDbHandle handle, const OdRxClass* objectClass, QString& variable);
+
+    // A hatch by entities of the drawing: each becomes a helper of the macro, which is erased behind the hatch on
+    // demand; an entity that the API can't insert is named when the macro has it and left out otherwise.
+    [[nodiscard]] QString HatchByEntities(const QString& target, const OdArray<OdDbObjectId>& ids,
+                                          const QString& pattern, double scale, double angle, bool erase);
 
     // Hyperlink of a block definition.
     [[nodiscard]] QString SetHyperLink(const QString& variable, const QString& address, const QString& description);
@@ -90,6 +95,9 @@ private:
     [[nodiscard]] QString SetLayer(const QString& variable, const OdDbObjectId& layer);
     [[nodiscard]] QString SetLineStyle(const QString& variable, const QString& word, const OdDbObjectId& lineStyle);
 
+    // The insertion of an object as the drawing holds it; empty for a class that the API doesn't insert.
+    [[nodiscard]] QString InsertStored(const OdDbObject& object, const QString& variable);
+
     // Changed properties: each is taken from the list and written only when the object isn't new. The names are those
     // of the journal, the words those of the API.
     using CoordinateNames = std::array<const char*, 3>;
@@ -108,6 +116,8 @@ private:
     [[nodiscard]] QString CreateArc(const Creation& creation);
     [[nodiscard]] QString CreateInfiniteLine(const Creation& creation);
     [[nodiscard]] QString CreateEllipse(const Creation& creation);
+    [[nodiscard]] QString InsertEllipse(const QString& variable, const OdGePoint3d& center, const OdGePoint3d& axis,
+                                        double minorRadius, double startAngle, double endAngle);
     [[nodiscard]] QString ConvertLine(const PropertyPass& pass);
     [[nodiscard]] QString ConvertCircle(const PropertyPass& pass);
     [[nodiscard]] QString ConvertPoint(const PropertyPass& pass);

@@ -7,11 +7,13 @@
 #include "backends/javascript/counters.h"
 #include "backends/vba/counters.h"
 #include "backends/vbnet/counters.h"
+#include "core/logic_counters.h"
 #include "core/recording_start.h"
 
 void ResetProcessState()
 {
     RecordingStart::Current() = {};
+    LogicCounters::OfProcess() = {};
     CppCounters::OfProcess() = {};
     CSharpCounters::OfProcess() = {};
     JavaScriptCounters::OfProcess() = {};

@@ -4,9 +4,52 @@
 
 struct CppCounters
 {
+    // Numbers of the next use.
+    int WriteSelectByMethods = 0;
+    int WriteSetSelectionFilter = 0;
+    int WriteAddEntitiesToGroup = 0;
+    int WriteTrimEntities = 0;
+    int WriteExtendEntities = 0;
+    int WriteFilletEntities = 0;
+    int WriteChamferEntities = 0;
+    int WriteRenameSheet = 0;
+    int WriteCreateSheet = 0;
+    int WriteCreateSheetByTemplate = 0;
+    int WriteRenameNamedView = 0;
+    int WriteSetNamedViewClass = 0;
+    int WriteSetNamedViewWindow = 0;
+    int WriteCreateNamedView = 0;
+    int WriteActivateViewport = 0;
+    int WriteSaveCCS = 0;
+    int WriteRestoreCCS = 0;
+    int WriteRemoveCCS = 0;
+    int WritePreviousCCS = 0;
+    int WriteWorldCCS = 0;
+    int WriteAlignCCSByView = 0;
+    int WriteDefaultCCS = 0;
+    int WriteSetCCSOrigin = 0;
+    int WriteAlignCCSZAxis = 0;
+    int WriteAlignCCSByEntity = 0;
+    int WriteCreateCCSFromPoints = 0;
+    int WriteGetInterfaceFiles = 0;
+    int WriteGetSystemFiles = 0;
+    int WriteGetDrawingSupportFiles = 0;
+    int WriteStringArray = 0;
     int WriteGetLayer = 0;
     int WriteSetTransparency = 0;
     int WriteSetHyperLink = 0;
+    int WriteSplitPolyline = 1;
+    int WriteAddVertexAfter = 1;
+    int WriteSetVertexCoordinate = 1;
+    int WriteStraightenPolyline = 1;
+    int WriteSetSegmentWidths = 1;
+    int WriteZoom = 1;
+    int WriteInsertViewTiles = 1;
+
+    // Numbers of the last use; the odd starts keep the names apart from all others.
+    int WriteFitPolyline = 5136;
+    int WriteDecurvePolyline = 5332;
+    int WriteSplinePolyline = 3875588;
 
     [[nodiscard]] static CppCounters& OfProcess()
     {

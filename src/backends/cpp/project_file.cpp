@@ -33,7 +33,7 @@ QString ProjectTemplate()
                                                    {"InterfaceIdentifierFileName", "KvAddinBob_i.c"},
                                                    {"ProxyFileName", "KvAddinBob_p.c"}},
                                      .includeDirectory = "&quot;%4&quot;",
-                                     .libraryDirectory = "&quot;%3&quot;",
+                                     .linkDirectory = "&quot;%3&quot;",
                                      .outputFile = nullptr,
                                      .moduleDefinition = "%1.def",
                                      .writeFilters = WriteFilters});

@@ -12,6 +12,17 @@ QString CZtConverterKVAPICPPCOM::WriteCommentBlockSeparator()
     return {};
 }
 
+QString CZtConverterKVAPICPPCOM::WriteSelectByMethods(const SelectionMethod& /*method*/, bool /*filterActive*/)
+{
+    return {};
+}
+
+QString CZtConverterKVAPICPPCOM::WriteSetSelectionFilter(const SelectionMethod& /*method*/,
+                                                         const QStringList& /*typeNames*/)
+{
+    return {};
+}
+
 // The project exports by its module definition.
 QString CZtConverterKVAPICPPCOM::WriteGlobalHeaderFile(const QString& /*macroName*/)
 {

@@ -46,7 +46,7 @@ QString ProjectTemplate()
                        {"InterfaceIdentifierFileName", "%1_i.c"},
                        {"ProxyFileName", "%1_p.c"}},
          .includeDirectory = "&quot;%5&quot;",
-         .libraryDirectory = "&quot;%4&quot;",
+         .linkDirectory = "&quot;%4&quot;",
          .outputFile = "$(OutDir)\\$(ProjectName).dll",
          .moduleDefinition = ".\\%1.def",
          .writeFilters = WriteFilters});

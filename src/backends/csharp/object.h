@@ -11,4 +11,8 @@ public:
 #define OPERATION(result, name, parameters) [[nodiscard]] result name parameters override;
 #include "objects/object_operations.def"
 #undef OPERATION
+
+private:
+    // The head of all backgrounds of views.
+    [[nodiscard]] QString BackgroundHead(std::int32_t number, const QString& variable) const;
 };

@@ -1,5 +1,5 @@
 // What JavaScript leaves unsaid: blocks, comments and declarations, since a variable is declared where it is assigned;
-// and the reserved operations.
+// selections by method; and the reserved operations.
 #include "backends/javascript/converter.h"
 #include "backends/javascript/object.h"
 
@@ -25,6 +25,17 @@ QString CZtConverterKVAPIJavaScript::WriteCommentBlockSeparator()
 
 QString CZtConverterKVAPIJavaScript::WriteDeclareVariable(const QString& /*typeName*/, const QString& /*stem*/,
                                                           std::int32_t /*number*/)
+{
+    return {};
+}
+
+QString CZtConverterKVAPIJavaScript::WriteSelectByMethods(const SelectionMethod& /*method*/, bool /*filterActive*/)
+{
+    return {};
+}
+
+QString CZtConverterKVAPIJavaScript::WriteSetSelectionFilter(const SelectionMethod& /*method*/,
+                                                             const QStringList& /*typeNames*/)
 {
     return {};
 }

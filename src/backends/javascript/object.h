@@ -18,4 +18,6 @@ private:
                                          const QString& setter, double value);
     [[nodiscard]] QString SetVertexMember(const QString& variable, Axis axis, const QString& getter,
                                           const QString& setter, double value, std::int32_t index);
+    // The head of the backgrounds of views.
+    [[nodiscard]] QString BackgroundHead(std::int32_t number, const QString& variable);
 };

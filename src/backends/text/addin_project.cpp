@@ -71,7 +71,7 @@ void AddLinker(VcprojWriter& xml, const AddinProject& project, const Configurati
         attributes.push_back({"OutputFile", project.outputFile});
     }
     attributes.insert(attributes.end(), {{"LinkIncremental", "2"},
-                                         {"AdditionalLibraryDirectories", project.libraryDirectory},
+                                         {"AdditionalLibraryDirectories", project.linkDirectory},
                                          {"ModuleDefinitionFile", project.moduleDefinition},
                                          {"GenerateDebugInformation", "true"},
                                          {"SubSystem", "2"},

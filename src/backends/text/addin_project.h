@@ -17,7 +17,7 @@ struct AddinProject
     VcprojWriter::Attributes buildStep; // of the custom build step
     VcprojWriter::Attributes midlFiles; // the files that the interface compiler makes
     const char* includeDirectory;
-    const char* libraryDirectory;
+    const char* linkDirectory;
     const char* outputFile; // of the linker; null when the attribute is absent
     const char* moduleDefinition;
     void (*writeFilters)(VcprojWriter& xml); // the groups of files

@@ -83,7 +83,9 @@ inline constexpr int quickLength = 32;
 class FillValue
 {
 public:
-    FillValue() = default; // left without a value until Set: arrays of these are filled one after the other
+    // Left without a value until Set: arrays of these are filled one after the other.
+    FillValue() = default; // NOLINT(cppcoreguidelines-pro-type-member-init)
+    ~FillValue() = default;
     FillValue(const FillValue&) = delete;
     FillValue& operator=(const FillValue&) = delete;
 

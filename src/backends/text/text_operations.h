@@ -21,6 +21,10 @@ struct GeneralForms
         {
             return GeneralPoint2d{value};
         }
+        else if constexpr (std::is_same_v<V, OdGeVector3d>)
+        {
+            return GeneralPoint{{value.x, value.y, value.z}};
+        }
         else
         {
             return (value);

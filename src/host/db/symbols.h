@@ -53,6 +53,9 @@ class KVHOST_API OdDbTableStyle : public OdDbObject
 class KVHOST_API OdDbGroup : public OdDbObject
 {
     ODRX_DECLARE_MEMBERS(OdDbGroup)
+
+    // The name in the dictionary of groups.
+    [[nodiscard]] virtual OdString getName() const = 0;
 };
 
 class KVHOST_API OdDbLayout : public OdDbObject

@@ -11,10 +11,13 @@
 class KVHOST_API ConversionObserver
 {
 public:
+    ConversionObserver() = default;
     virtual ~ConversionObserver();
+    ConversionObserver(const ConversionObserver&) = delete;
+    ConversionObserver& operator=(const ConversionObserver&) = delete;
 
     // An event was converted: its text, which may be empty or may be dropped later, and its result code. A command is
-    // told after its children.
+    // told after its children, with the head of its block; without text when all its children gave none.
     virtual void EventConverted(const OdRxObject& event, const QString& text, std::int32_t result) = 0;
 
     // A text goes to the macro file, in the order of the file. The event is the one that it came from; null for text

@@ -11,12 +11,25 @@
 class KVHOST_API CZtDatabase : public OdDbDatabase
 {
     ODRX_DECLARE_MEMBERS(CZtDatabase)
+
+    // The group of a name in the drawing's dictionary of groups; null when there is none.
+    [[nodiscard]] virtual OdDbObjectId getGroupId(const OdString& name) = 0;
+
+    // The values that fillet and chamfer use: lengths in drawing units, the angle in radians.
+    [[nodiscard]] virtual double filletRadius() const = 0;
+    [[nodiscard]] virtual double chamferFirstDistance() const = 0;
+    [[nodiscard]] virtual double chamferSecondDistance() const = 0;
+    [[nodiscard]] virtual double chamferLength() const = 0;
+    [[nodiscard]] virtual double chamferAngle() const = 0;
 };
 
 class KVHOST_API CZtDocument
 {
 public:
+    CZtDocument() = default;
     virtual ~CZtDocument();
+    CZtDocument(const CZtDocument&) = delete;
+    CZtDocument& operator=(const CZtDocument&) = delete;
 
     // The document's drawing; never null.
     [[nodiscard]] virtual CZtDatabase* GetZtDatabase() = 0;
@@ -26,17 +39,28 @@ public:
 class KVHOST_API CZtSystemSettings
 {
 public:
+    CZtSystemSettings() = default;
     virtual ~CZtSystemSettings();
+    CZtSystemSettings(const CZtSystemSettings&) = delete;
+    CZtSystemSettings& operator=(const CZtSystemSettings&) = delete;
 
     // The language of macros: 0 C++ API, 1 C#, 2 JavaScript, 3 VB.NET, 4 C++ COM, 5 VBA. The host sets it to the
     // language asked for before it calls ConvertJournal.
     [[nodiscard]] virtual std::int16_t MacroLanguage() const = 0;
+
+    // The values of the system variables CHAMMODE, EDGEMODE and TRIMMODE.
+    [[nodiscard]] virtual std::int16_t ChamferMode() const = 0;
+    [[nodiscard]] virtual std::int16_t EdgeMode() const = 0;
+    [[nodiscard]] virtual std::int16_t TrimMode() const = 0;
 };
 
 class KVHOST_API CZtSystemServices
 {
 public:
+    CZtSystemServices() = default;
     virtual ~CZtSystemServices();
+    CZtSystemServices(const CZtSystemServices&) = delete;
+    CZtSystemServices& operator=(const CZtSystemServices&) = delete;
 
     [[nodiscard]] virtual const CZtSystemSettings& Settings() const = 0;
 };
@@ -46,7 +70,10 @@ class KVHOST_API CZtHost
 {
 public:
     // Takes the registration back when it is this host's.
+    CZtHost() = default;
     virtual ~CZtHost();
+    CZtHost(const CZtHost&) = delete;
+    CZtHost& operator=(const CZtHost&) = delete;
 
     [[nodiscard]] virtual CZtSystemServices& SystemServices() = 0;
 

@@ -11,6 +11,7 @@ public:
     // A class of the given name below parent; the root class has a null parent.
     OdRxClass(const QString& name, const OdRxClass* parent) : name_(name), parent_(parent) {}
 
+    ~OdRxClass() = default;
     OdRxClass(const OdRxClass&) = delete;
     OdRxClass& operator=(const OdRxClass&) = delete;
 

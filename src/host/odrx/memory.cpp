@@ -5,10 +5,10 @@
 
 void* odrxAlloc(std::size_t size) noexcept
 {
-    return std::malloc(size);
+    return std::malloc(size); // NOLINT(cppcoreguidelines-no-malloc): the allocator itself
 }
 
 void odrxFree(void* memory) noexcept
 {
-    std::free(memory);
+    std::free(memory); // NOLINT(cppcoreguidelines-no-malloc): the allocator itself
 }

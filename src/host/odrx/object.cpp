@@ -16,6 +16,8 @@ const OdRxClass* OdRxObject::isA() const
 
 OdRxObject* OdRxObject::queryX(const OdRxClass* wanted) const
 {
+    // The query itself changes nothing, but its answer may be changed as the object may.
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast)
     return isKindOf(wanted) ? const_cast<OdRxObject*>(this) : nullptr;
 }
 
@@ -60,5 +62,5 @@ int OdRxObject::comparedTo(const OdRxObject* other) const
     {
         return 0;
     }
-    return std::less<const OdRxObject*>()(this, other) ? -1 : 1;
+    return std::less<>()(this, other) ? -1 : 1;
 }

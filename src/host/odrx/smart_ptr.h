@@ -25,7 +25,14 @@ public:
 
     ~OdSmartPtr() { reset(); }
 
-    OdSmartPtr& operator=(OdSmartPtr other) noexcept
+    OdSmartPtr& operator=(const OdSmartPtr& other)
+    {
+        OdSmartPtr copy(other);
+        std::swap(object_, copy.object_);
+        return *this;
+    }
+
+    OdSmartPtr& operator=(OdSmartPtr&& other) noexcept
     {
         std::swap(object_, other.object_);
         return *this;
