@@ -1,0 +1,162 @@
+// Stand-ins of the application's script library: objects that know the members of their class and record each call in
+// the form of the C++ API. Runs in node and in a browser; `API`, the lists of classes and enumerations, comes before it.
+"use strict";
+
+var kvStringArray = [];
+
+function replayLibrary(record)
+{
+    let count = 0;
+    const ANY = "any class";
+
+    class Numbered
+    {
+        constructor(type) { this.type = type; this.number = ++count; }
+    }
+
+    function members(type, name)
+    {
+        if (type === ANY)
+            return Object.values(API.classes).flatMap(found => found.members.filter(member => member.name === name));
+        const found = API.classes[type];
+        const own = found.members.filter(member => member.name === name);
+        return own.length || !found.base ? own : members(found.base, name);
+    }
+
+    // The checks of arguments. What a constant or an array of the API is, only these know.
+    const all = check => value => Array.isArray(value) && value.every(check);
+    const checks = {
+        real: value => typeof value === "number",
+        int: value => Number.isInteger(value),
+        bool: value => typeof value === "boolean",
+        text: value => typeof value === "string"
+    };
+    checks.reals = all(checks.real);
+    checks.ints = all(checks.int);
+    checks.texts = all(checks.text);
+
+    function isOf(type, wanted)
+    {
+        return type === ANY || type === wanted || Boolean(API.classes[type].base) &&
+            isOf(API.classes[type].base, wanted);
+    }
+
+    function fits(value, type)
+    {
+        if (checks[type])
+            return checks[type](value);
+        if (type in API.enumerations)
+            return API.enumerations[type].includes(value);
+        if (type === "objects")
+            return all(entry => fits(entry, "object"))(value);
+        if (value === null)
+            return true;
+        const number = value && value.replayed;
+        return Boolean(number) && (type === "object" || isOf(number.type, type));
+    }
+
+    function told(value)
+    {
+        if (Array.isArray(value))
+            return value.map(told);
+        return value && value.replayed ? {object: value.replayed.number} : value === undefined ? null : value;
+    }
+
+    // What the API gives back for an argument or a result: [value, how it is recorded].
+    function given(type, marks)
+    {
+        switch (type)
+        {
+        case "real":
+            return [900000.5 + marks.count++, null];
+        case "int":
+            return [1, null];
+        case "bool":
+            return [true, null];
+        case "text":
+            return ["given", null];
+        case "objects":
+            return [[1, 2, 3, 4].map(() => make(ANY)), null];
+        default:
+            if (type in API.enumerations)
+                return [undefined, null];
+            const made = make(type === "object" ? ANY : type);
+            return [made, {out: made.replayed.number}];
+        }
+    }
+
+    // Several results are an array; three numbers are a point. What is created comes with the outcome of its creation.
+    function result(values, member)
+    {
+        const wanted = values.filter(([type]) => !(type in API.enumerations));
+        if (wanted.length > 1 && wanted[wanted.length - 1][0] === "bool")
+            wanted.pop();
+        if (wanted.length === 3 && wanted.every(([type]) => type === "real"))
+            return {X: wanted[0][1], Y: wanted[1][1], Z: wanted[2][1]};
+        if (member.arguments.some(argument => argument.type === "kvCreateObjectResult_e"))
+            return {[wanted[0][0]]: wanted[0][1]};
+        return wanted.length > 1 ? wanted.map(([, value]) => value) : wanted.length ? wanted[0][1] : undefined;
+    }
+
+    function call(target, member, values)
+    {
+        const marks = {count: 0};
+        const recorded = [];
+        const results = [];
+        let next = 0;
+        for (const argument of member.arguments)
+        {
+            if (argument.written)
+                recorded.push(told(values[next++]));
+            if (argument.returned)
+            {
+                const [value, text] = given(argument.type, marks);
+                results.push([argument.type, value]);
+                if (!argument.written)
+                    recorded.push(text);
+            }
+            else if (!argument.written)
+                recorded.push(null);
+        }
+        if (member.result)
+        {
+            const [value, text] = given(member.result, marks);
+            results.push([member.result, value]);
+            if (text)
+                recorded.push(text);
+        }
+        record({object: target.number, class: member.owner, member: member.name, arguments: recorded});
+        return result(results, member);
+    }
+
+    function make(type)
+    {
+        const target = new Numbered(type);
+        return new Proxy({}, {
+            get(_, name)
+            {
+                if (name === "replayed")
+                    return target;
+                if (typeof name === "symbol" || name === "toJSON")
+                    return undefined;
+                const found = members(type, name);
+                if (!found.length)
+                    throw new TypeError(`${type} has no member ${name}`);
+                return (...values) => {
+                    const fitting = found.find(member => {
+                        const written = member.arguments.filter(argument => argument.written);
+                        return written.length === values.length &&
+                            written.every((argument, index) => fits(values[index], argument.type));
+                    });
+                    if (!fitting)
+                        throw new TypeError(`${type}.${name} doesn't take (${values.map(value =>
+                            JSON.stringify(told(value))).join(", ")})`);
+                    return call(target, fitting, values);
+                };
+            },
+            set(_, name) { throw new TypeError(`${type}.${name} can't be set`); }
+        });
+    }
+
+    return {getApplication: () => make("Application")};
+}

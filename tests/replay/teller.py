@@ -1,0 +1,101 @@
+"""Tells the story of a macro from the calls that it made."""
+import re
+
+INSERTIONS = {"InsertLine": "Line", "InsertCircle": "Circle", "InsertPoint": "Point", "InsertRay": "Ray",
+              "InsertArc": "CircleArc", "InsertInfiniteLine": "InfiniteLine",
+              "InsertEllipseDistanceToOtherAxis": "Ellipse", "InsertEllipseArcDistanceToOtherAxis": "EllipseArc"}
+
+
+class Teller:
+    """Turns recorded calls into the steps of story.py; calls that only fetch something are passed over."""
+
+    def __init__(self):
+        self.steps = []
+        self.numbers = {}    # number of a recorded object -> number of the story's object
+        self.values = {}     # colours, points, transparencies by recorded number
+        self.owners = {}     # transparency -> the object that it was taken from
+        self.added = {}      # array -> what was added to it
+        self.selecting = []  # arrays of objects in the order of their first entry
+        self.start = (None, None)  # number and name of the sheet that the macro's head asks for
+        self.begun = False         # true when the macro's head has got what draws
+
+    def story(self, calls):
+        for call in calls:
+            self.tell(call["object"], call["class"], call["member"], call["arguments"])
+        return self.steps
+
+    def tell(self, target, owner, member, arguments):
+        if member in INSERTIONS:
+            self.insert(INSERTIONS[member], arguments)
+        elif owner == "Document" and member == "GetSheet" and not self.begun:
+            self.start = (arguments[-1]["out"], arguments[0])
+        elif owner == "Sheet" and member == "Activate" and target == self.start[0]:
+            self.steps.append(["start", self.start[1]])
+        elif member == "GetSketchManager":
+            self.begun = True
+        elif target in self.numbers:
+            self.change(target, member, arguments)
+        elif owner == "CommandMessage":
+            self.prompt(member.replace("PromptFor", ""), arguments)
+        elif re.match("Set(Command|Application)Option", member):
+            self.steps.append(["option", arguments[0], arguments[1] if len(arguments) == 3 else arguments[1:-1]])
+        elif member in ("GetColorByIndex", "GetRGBColor"):
+            color = {"index": arguments[0]} if member == "GetColorByIndex" else {"rgb": arguments[:3]}
+            self.values[arguments[-1]["out"]] = color
+        elif member == "CreatePoint":
+            self.values[arguments[-1]["out"]] = arguments[:3]
+        elif owner == "Transparency":
+            self.values[target] = {"alpha": arguments[0]} if arguments else {"by": member[len("SetBy"):].lower()}
+        elif owner == "Array":
+            self.fill(target, arguments[0])
+
+    def insert(self, kind, arguments):
+        number = arguments[-1]["out"]
+        self.numbers[number] = len(self.numbers) + 1
+        self.steps.append(["insert", kind, arguments[:-1]])
+
+    def change(self, target, member, arguments):
+        number = self.numbers[target]
+        if member.startswith("put_"):
+            value = arguments[0]
+            if isinstance(value, dict):
+                value = self.values.get(value["object"])
+            self.steps.append(["set", number, member[len("put_"):], value])
+        elif member == "get_Transparency":
+            self.owners[arguments[0]["out"]] = number
+        elif member.startswith("Set") and len(arguments) == 3:
+            # The coordinates that were only handed on are the ones that the getter gave, each its own mark.
+            for axis, value, mark in zip("XYZ", arguments, (900000.5, 900001.5, 900002.5)):
+                if value != mark:
+                    self.steps.append(["coordinate", number, member[len("Set"):], axis, value])
+        elif not member.startswith(("Get", "get_")):
+            self.steps.append([member, number, *arguments])
+
+    def prompt(self, kind, arguments):
+        if kind == "Selection":
+            # What the macro put into its array of objects until now; the array of their types comes first.
+            entities = self.added.pop(self.selecting.pop(), []) if self.selecting else []
+            self.selecting.clear()
+            self.steps.append(["select", *entities])
+            return
+        if kind == "PointOrKeyword":
+            default = self.values[arguments[6]["object"]]
+        elif kind == "Point":
+            default = arguments[1:4]
+        elif kind == "String":
+            arguments = arguments[1:]
+            default = arguments[1]
+        elif kind == "Keyword2":
+            kind, default = "Keyword", arguments[5]
+        else:
+            default = arguments[1]
+            # Where the variable only takes the answer, nothing is known of what it held.
+            if arguments[2] not in (None, default):
+                default = f"{arguments[1]}, but {arguments[2]} in the variable"
+        self.steps.append(["prompt", kind, arguments[0], default])
+
+    def fill(self, array, value):
+        if isinstance(value, dict) or value is None:
+            if array not in self.selecting:
+                self.selecting.append(array)
+            self.added.setdefault(array, []).append(self.numbers.get(value["object"]) if value else None)
