@@ -1,10 +1,10 @@
 // A stand-in of ATL: what the generated server uses, declared. Nothing here runs.
 #pragma once
 
-#include <windows.h>
-#include <oleauto.h>
 #include <comdef.h>
+#include <oleauto.h>
 #include <olectl.h>
+#include <windows.h>
 
 #define ATL_NO_VTABLE
 #define DECLARE_LIBID(id)                                                                                              \
