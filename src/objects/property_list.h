@@ -10,8 +10,8 @@ using ConsumedProperties = std::vector<const CZtPropertyElement*>;
 class PropertyList
 {
 public:
-    // The elements of an event, which keeps them: they are counted neither here nor among the consumed ones, since
-    // counting them took a third of the time of a conversion. The words and the context are used for every reading.
+    // The elements of an event, which keeps them: they are counted neither here nor among the consumed ones. The words
+    // and the context are used for every reading.
     PropertyList(const CZtPropertyList& elements, const DisplayWords& words, std::uint64_t hostContext);
     PropertyList(CZtPropertyList&&, const DisplayWords&, std::uint64_t) = delete;
 
