@@ -22,6 +22,12 @@ public:
     OdDbObjectId getOdDbObjectId(OdDbHandle handle) override { return {this, handle}; }
     OdDbObjectPtr openObject(OdDbHandle /*handle*/) override { return {}; }
     OdDbObjectId currentLayoutId() override { return {}; }
+    OdDbObjectId getGroupId(const OdString& /*name*/) override { return {}; }
+    double filletRadius() const override { return 0.0; }
+    double chamferFirstDistance() const override { return 0.0; }
+    double chamferSecondDistance() const override { return 0.0; }
+    double chamferLength() const override { return 0.0; }
+    double chamferAngle() const override { return 0.0; }
 };
 
 class Host final : public CZtHost, CZtSystemServices, CZtSystemSettings, CZtDocument
@@ -31,6 +37,9 @@ public:
     CZtDocument* ActiveDocument() override { return this; }
     const CZtSystemSettings& Settings() const override { return *this; }
     std::int16_t MacroLanguage() const override { return 0; }
+    std::int16_t ChamferMode() const override { return 0; }
+    std::int16_t EdgeMode() const override { return 0; }
+    std::int16_t TrimMode() const override { return 0; }
     CZtDatabase* GetZtDatabase() override { return drawing_.get(); }
 
 private:
