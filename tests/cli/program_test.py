@@ -187,7 +187,7 @@ class Results(ProgramTest):
         self.assert_same(tree(self.folder), before)
 
     def test_check_lists_events(self):
-        self.journal("events", [*lines(2), {"command": "LINE"}, {"action": {"id": 3, "data": []}}, {"end": "LINE"}, None])
+        self.journal("events", [*lines(2), {"command": "LINE"}, {"action": {"id": 12, "data": ["Nowhere"]}}, {"end": "LINE"}, None])
         before = tree(self.folder)
         table = self.run_program("check", "events.jsonl").stdout
         self.assertRegex(table, r"(?m)^ *2  added +AcDbLine +translated$")

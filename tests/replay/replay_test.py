@@ -94,6 +94,8 @@ def random_journal(chance):
                "Int32": {"int32": -100000}, "String": {"text": "any"}, "Point2d": {"point2d": [0.1, 2e-5]},
                "Point3d": {"point3d": [1, 2.5, 1 / 3]}}
     for variable, (kind, _) in {**api.options("Application"), **api.options("Command")}.items():
+        if variable is None:
+            continue  # an option that commands write themselves
         yield {"sysvar": {"name": variable, "value": {"text": "17"} if variable == "CECOLOR" else by_kind[kind]}}
     yield {"sysvar": {"name": "NOSUCH", "value": 1}}
     for number in range(60):

@@ -80,11 +80,12 @@ inline constexpr int quickLength = 32;
 
 /// The final text of one marker's value, made once however often the marker stands in the template.
 /// It holds what it shows: a value made from a text stays valid when that text changes.
+// NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): see the constructor
 class FillValue
 {
 public:
     // Left without a value until Set: arrays of these are filled one after the other.
-    FillValue() = default; // NOLINT(cppcoreguidelines-pro-type-member-init)
+    FillValue() = default;
     ~FillValue() = default;
     FillValue(const FillValue&) = delete;
     FillValue& operator=(const FillValue&) = delete;
