@@ -6,6 +6,8 @@
 #include "host/db/text.h"
 #include "host/kernel/services.h"
 
+#include <utility>
+
 namespace
 {
 // Custom actions that the block treats apart.
@@ -41,7 +43,7 @@ bool IsLinetypeShapeStyle(const CZtObjectAdded& event)
 class CounterScope
 {
 public:
-    explicit CounterScope(std::int32_t& counter) : counter_(counter), saved_(counter) { counter_ = 0; }
+    explicit CounterScope(std::int32_t& counter) : counter_(counter), saved_(std::exchange(counter, 0)) {}
     ~CounterScope() { counter_ = saved_; }
     CounterScope(const CounterScope&) = delete;
     CounterScope& operator=(const CounterScope&) = delete;
@@ -143,7 +145,7 @@ ResultCode CZtConverterKVAPIImpl::ConvertUserCommand(MacroWriter& writer, const 
     const std::size_t count = childEvents.size();
     for (std::size_t i = 0; i < count; ++i)
     {
-        const OdRxObjectPtr child = childEvents[i];
+        const OdRxObjectPtr& child = childEvents[i];
         QString text;
         if (child && child->queryX(CZtCustomAction::desc()) != nullptr)
         {

@@ -85,7 +85,7 @@ ResultCode CZtConverterKVAPIImpl::Walk(MacroWriter& writer, const CZtJournal& jo
     const std::size_t count = journal.size();
     for (std::size_t i = 0; i < count && result == ResultNormal; ++i)
     {
-        const OdRxObjectPtr event = journal[i];
+        const OdRxObjectPtr& event = journal[i];
         if (!event)
         {
             continue;

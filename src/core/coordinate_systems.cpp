@@ -2,6 +2,8 @@
 #include "core/action_data.h"
 #include "core/converter_impl.h"
 
+#include <QtCore/QHash>
+
 ResultCode CZtConverterKVAPIImpl::ConvertCCS(const CZtCustomAction& action, QString& text)
 {
     if (action.GetActionId() != 12)

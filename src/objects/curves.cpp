@@ -8,7 +8,7 @@
 
 QString CZtConverterKVAPIObject::CreateLine(const Creation& creation)
 {
-    auto& [properties, consumed, handle, variable] = creation;
+    const auto& [properties, consumed, handle, variable] = creation;
     const OdGePoint3d start = properties.TakePoint("Start X", "Start Y", "Start Z", &consumed);
     const OdGePoint3d end = properties.TakePoint("End X", "End Y", "End Z", &consumed);
     return WriteInsertLine(variable, start, end);
@@ -16,7 +16,7 @@ QString CZtConverterKVAPIObject::CreateLine(const Creation& creation)
 
 QString CZtConverterKVAPIObject::CreateCircle(const Creation& creation)
 {
-    auto& [properties, consumed, handle, variable] = creation;
+    const auto& [properties, consumed, handle, variable] = creation;
     const OdGePoint3d center = properties.TakePoint("Center X", "Center Y", "Center Z", &consumed);
     const double radius = properties.TakeDouble("Radius", 1.0, &consumed);
     return WriteInsertCircle(variable, center, radius);
@@ -24,13 +24,13 @@ QString CZtConverterKVAPIObject::CreateCircle(const Creation& creation)
 
 QString CZtConverterKVAPIObject::CreatePoint(const Creation& creation)
 {
-    auto& [properties, consumed, handle, variable] = creation;
+    const auto& [properties, consumed, handle, variable] = creation;
     return WriteInsertPoint(variable, properties.TakePoint("Position X", "Position Y", "Position Z", &consumed));
 }
 
 QString CZtConverterKVAPIObject::CreateRay(const Creation& creation)
 {
-    auto& [properties, consumed, handle, variable] = creation;
+    const auto& [properties, consumed, handle, variable] = creation;
     const OdGePoint3d base = properties.TakePoint("Base point X", "Base point Y", "Base point Z", &consumed);
     const OdGePoint3d second = properties.TakePoint("Second point X", "Second point Y", "Second point Z", &consumed);
     return WriteInsertRay(variable, base, second);
@@ -38,7 +38,7 @@ QString CZtConverterKVAPIObject::CreateRay(const Creation& creation)
 
 QString CZtConverterKVAPIObject::CreateArc(const Creation& creation)
 {
-    auto& [properties, consumed, handle, variable] = creation;
+    const auto& [properties, consumed, handle, variable] = creation;
     const OdGePoint3d center = properties.TakePoint("Center X", "Center Y", "Center Z", &consumed);
     const double radius = properties.TakeDouble("Radius", 1.0, &consumed);
     const double startAngle = properties.TakeDouble("Start Angle", 0.0, &consumed);
@@ -48,7 +48,7 @@ QString CZtConverterKVAPIObject::CreateArc(const Creation& creation)
 
 QString CZtConverterKVAPIObject::CreateInfiniteLine(const Creation& creation)
 {
-    auto& [properties, consumed, handle, variable] = creation;
+    const auto& [properties, consumed, handle, variable] = creation;
     const OdGePoint3d base = properties.TakePoint("Base point X", "Base point Y", "Base point Z", &consumed);
     const OdGePoint3d second = properties.TakePoint("Second point X", "Second point Y", "Second point Z", &consumed);
     return WriteInsertInfiniteLine(variable, base, second);
@@ -56,7 +56,7 @@ QString CZtConverterKVAPIObject::CreateInfiniteLine(const Creation& creation)
 
 QString CZtConverterKVAPIObject::CreateEllipse(const Creation& creation)
 {
-    auto& [properties, consumed, handle, variable] = creation;
+    const auto& [properties, consumed, handle, variable] = creation;
     const OdGePoint3d center = properties.TakePoint("Center X", "Center Y", "Center Z", &consumed);
     const OdGePoint3d axis =
         properties.TakePoint("Major axis vector X", "Major axis vector Y", "Major axis vector Z", &consumed);
