@@ -130,7 +130,7 @@ constexpr const char* supportedClasses[] = {
 QString VariableType(QLatin1String word)
 {
     const bool isPlain = word == QLatin1String("Region") || word == QLatin1String("ViewTile");
-    return QLatin1String("kv") + word + QLatin1String(isPlain ? "_c*" : "_ptr");
+    return (isPlain ? QStringLiteral("kv%1_c*") : QStringLiteral("kv%1_ptr")).arg(word);
 }
 
 using TypeArray = std::array<ObjectType, std::size(typeRows)>;

@@ -1,6 +1,7 @@
 // What the two Basic languages say alike on the journal side and on the object side.
 #pragma once
 
+#include "backends/text/coordinate_locals.h"
 #include "backends/text/text_operations.h"
 #include "objects/axis.h"
 
@@ -106,8 +107,7 @@ protected:
 
     [[nodiscard]] QString AssignCoordinate(Axis axis, double value, std::int32_t number) const
     {
-        return Base::Statement("%1%3%5 = %4%2", QLatin1String("get") + QLatin1String(AxisName(axis)), Fixed{value},
-                               number);
+        return Base::Statement("%1%3%5 = %4%2", CoordinateLocal(axis), Fixed{value}, number);
     }
 };
 

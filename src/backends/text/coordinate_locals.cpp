@@ -14,8 +14,7 @@ QString DeclareCoordinates(Indent indent, std::int32_t number)
 
 QString AssignCoordinate(Indent indent, Axis axis, double value, std::int32_t number)
 {
-    return Fill("%1%3%5 = %4;%2", indent, LineEnd(), QLatin1String("get") + QLatin1String(AxisName(axis)), Fixed{value},
-                number);
+    return Fill("%1%3%5 = %4;%2", indent, LineEnd(), CoordinateLocal(axis), Fixed{value}, number);
 }
 
 } // namespace kv

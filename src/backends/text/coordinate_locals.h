@@ -7,6 +7,13 @@
 namespace kv
 {
 
+// The stem of the local that holds a coordinate.
+[[nodiscard]] constexpr const char* CoordinateLocal(Axis axis)
+{
+    constexpr const char* locals[] = {"getX", "getY", "getZ"};
+    return locals[static_cast<int>(axis)];
+}
+
 // Declares getX, getY and getZ with the number.
 [[nodiscard]] QString DeclareCoordinates(Indent indent, std::int32_t number);
 
