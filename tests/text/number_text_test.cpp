@@ -13,9 +13,9 @@ namespace
 {
 
 #if defined(__SANITIZE_ADDRESS__) || defined(KV_SANITIZE)
-constexpr int randomCases = 200'000;
+constexpr int randomNumbers = 200'000;
 #else
-constexpr int randomCases = 10'000'000;
+constexpr int randomNumbers = 10'000'000;
 #endif
 
 QString ArgGeneral(double value)
@@ -117,7 +117,7 @@ TEST(NumberText, EqualsArgAtTheEndsOfTheQuickRanges)
 TEST(NumberText, EqualsArgForRandomNumbers)
 {
     NumberSource numbers;
-    for (int i = 0; i < randomCases && !HasFatalFailure(); ++i)
+    for (int i = 0; i < randomNumbers && !HasFatalFailure(); ++i)
     {
         const double value = numbers.Next();
         if (kv::GeneralText(value) != ArgGeneral(value) || kv::FixedText(value) != ArgFixed(value))

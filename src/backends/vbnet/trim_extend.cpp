@@ -6,7 +6,7 @@
 namespace
 {
 
-constexpr kv::BasicSearchForms searchForms = {
+const kv::BasicSearchForms searchForms = {
     "%1    Dim kv%3 As Morvane.%4 = obj%2",
     "%1    kv%3.%4(%5)%2",
     "%1If iNewEnt = %3 Then%2"
