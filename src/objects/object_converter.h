@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/converter_impl.h"
+#include "core/enum_kind.h"
 #include "host/db/color.h"
 #include "host/ge/point2d.h"
 #include "objects/axis.h"
