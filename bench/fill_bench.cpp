@@ -210,7 +210,7 @@ void Write(benchmark::State& state)
     Make<Machine>(text, static_cast<Statement>(state.range(0)), values);
     const QByteArray bytes = text.toUtf8();
     const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen("/dev/null", "wb"), std::fclose);
-    for (auto _ : state)
+    for ([[maybe_unused]] auto _ : state) // NOLINT(clang-analyzer-deadcode.DeadStores)
         benchmark::DoNotOptimize(std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), file.get()));
     state.counters["bytes"] = bytes.size();
 }

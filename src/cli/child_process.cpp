@@ -34,9 +34,11 @@ int WaitForEnd(pid_t child)
 pid_t Start(const std::vector<std::string>& arguments, const sigset_t& signalMask)
 {
     std::vector<char*> words;
+    words.reserve(arguments.size() + 1);
     for (const std::string& argument : arguments)
     {
-        words.push_back(const_cast<char*>(argument.c_str()));
+        words.push_back(
+            const_cast<char*>(argument.c_str())); // NOLINT(cppcoreguidelines-pro-type-const-cast): not written
     }
     words.push_back(nullptr);
 

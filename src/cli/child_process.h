@@ -38,8 +38,8 @@ public:
                               const std::vector<std::string>& more = {}) const;
 
 private:
-    sigset_t interruptions_;
-    sigset_t previous_;
+    sigset_t interruptions_ = {};
+    sigset_t previous_ = {};
 };
 
 // To be called by a process that RunSelf started, with the number of the process that did: it ends when that one does,

@@ -6,6 +6,7 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <ranges>
 #include <set>
 #include <string>
 
@@ -72,13 +73,13 @@ public:
 
     ~Transaction()
     {
-        for (auto step = done_.rbegin(); step != done_.rend(); ++step)
+        for (const auto& step : std::views::reverse(done_))
         {
-            const int result = step->backup.empty() ? unlink(step->target.c_str())
-                                                    : std::rename(step->backup.c_str(), step->target.c_str());
+            const int result = step.backup.empty() ? unlink(step.target.c_str())
+                                                   : std::rename(step.backup.c_str(), step.target.c_str());
             if (result != 0)
             {
-                std::fprintf(stderr, "kvmacro: %s can't be brought back: %s\n", step->target.c_str(),
+                std::fprintf(stderr, "kvmacro: %s can't be brought back: %s\n", step.target.c_str(),
                              std::generic_category().message(errno).c_str());
             }
         }

@@ -35,6 +35,7 @@ Examples:
 std::vector<std::string> LanguageWords(bool withAll)
 {
     std::vector<std::string> words;
+    words.reserve(std::size(languages) + 1);
     for (const Language& language : languages)
     {
         words.emplace_back(language.word);

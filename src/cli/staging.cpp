@@ -7,6 +7,7 @@
 #include <charconv>
 #include <csignal>
 #include <optional>
+#include <ranges>
 #include <string>
 
 #include <fcntl.h>
@@ -163,9 +164,9 @@ Staging::~Staging()
 
 MadeFolders::~MadeFolders()
 {
-    for (auto folder = made_.rbegin(); folder != made_.rend(); ++folder)
+    for (const auto& folder : std::views::reverse(made_))
     {
-        rmdir(folder->c_str());
+        rmdir(folder.c_str());
     }
 }
 

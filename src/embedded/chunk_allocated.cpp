@@ -85,6 +85,6 @@ void* ChunkAllocated::operator new(std::size_t size)
 void ChunkAllocated::operator delete(void* object) noexcept
 {
     const auto address = reinterpret_cast<std::uintptr_t>(object) & ~std::uintptr_t(ChunkSize - 1);
-    reinterpret_cast<Chunk*>(address)->release();
+    reinterpret_cast<Chunk*>(address)->release(); // NOLINT(performance-no-int-to-ptr): the chunk is found so
 }
 } // namespace kv

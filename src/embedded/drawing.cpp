@@ -33,7 +33,7 @@ void Drawing::addDefaultObject(OdDbHandle handle, const OdRxClass* objectClass)
 
 void Drawing::complete()
 {
-    const QString& name = values_.get<QString>("currentLayout");
+    const auto& name = values_.get<QString>("currentLayout");
     for (const OdDbHandle handle : described_)
     {
         const Entry& entry = entries_.at(handle);

@@ -113,7 +113,7 @@ CZtPropertyList EventReader::properties(const JsonNode& node)
 {
     CZtPropertyList list;
     list.reserve(node.itemCount());
-    node.forEachItem("a list of properties", [&](const JsonNode& item) { list.push_back(property(item)); });
+    node.forEachItem("a list of properties", [&](const JsonNode& item) { list.emplace_back(property(item)); });
     return list;
 }
 

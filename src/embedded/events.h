@@ -13,7 +13,10 @@ namespace kv
 class RecordedEvent : public ChunkAllocated
 {
 public:
+    RecordedEvent() = default;
     virtual ~RecordedEvent();
+    RecordedEvent(const RecordedEvent&) = delete;
+    RecordedEvent& operator=(const RecordedEvent&) = delete;
 
     // What tells the sessions apart, and the line from 1.
     const void* session = nullptr;
@@ -81,7 +84,10 @@ private:
 class CollectingEvent
 {
 public:
+    CollectingEvent() = default;
     virtual ~CollectingEvent();
+    CollectingEvent(const CollectingEvent&) = delete;
+    CollectingEvent& operator=(const CollectingEvent&) = delete;
     [[nodiscard]] virtual OdDbHandle handle() const = 0;
     virtual void setCollected(const CZtPropertyList& collected) = 0;
 };

@@ -36,7 +36,7 @@ QString typeName(element_type type)
 QString Quoted(std::string_view text)
 {
     constexpr int longest = 60;
-    QString shown = ToText(text.substr(0, 4 * longest));
+    QString shown = ToText(text.substr(0, std::size_t{4} * longest));
     if (shown.size() > longest)
     {
         shown = shown.left(longest) + QStringLiteral("...");

@@ -51,7 +51,7 @@ LoadedModule::LoadedModule(const QString& path)
     const auto createObject = exported<CreateModuleObjectFunction>(file, "odrxCreateModuleObject", path);
 
     std::array<std::uint32_t, 4> version{};
-    getVersion(&version[0], &version[1], &version[2], &version[3]);
+    getVersion(version.data(), &version[1], &version[2], &version[3]);
     if (version != ExpectedVersion)
     {
         fail(path, QStringLiteral("the module speaks version %1 of the drawing library, %2 was expected")

@@ -17,7 +17,7 @@ void CollectProperties(Recording& recording, CZtConverterModule& module)
         CZtPropertyList properties;
         for (const CZtVariantCollectionElement& element : collection.GetCollectionDataForRead())
         {
-            properties.push_back(PropertyPtr::make(element.GetTag()->GetString(), CZtString(), *element.GetValue()));
+            properties.emplace_back(PropertyPtr::make(element.GetTag()->GetString(), CZtString(), *element.GetValue()));
         }
         event->setCollected(properties);
     }

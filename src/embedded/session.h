@@ -20,6 +20,8 @@ public:
     // An empty session: no events, an empty drawing whose current layout is the model's.
     Session();
     ~Session() override;
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
 
     // Reads a journal file in place of what the session held. False when the file can't be read (one fault with
     // line 0) or has faults; the session is empty then. The words of the user's language hold in the process until

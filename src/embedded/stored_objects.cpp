@@ -239,7 +239,7 @@ public:
     // A cell for which the journal has no text is empty.
     OdString textString(int row, int column) const override
     {
-        const TextRows& cells = values_.get<TextRows>("cells");
+        const auto& cells = values_.get<TextRows>("cells");
         if (row < 0 || column < 0 || static_cast<std::size_t>(row) >= cells.size() ||
             static_cast<std::size_t>(column) >= cells[static_cast<std::size_t>(row)].size())
         {

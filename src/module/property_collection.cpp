@@ -109,6 +109,7 @@ void CollectRadialDimension(const OdDbRadialDimension& dimension, Collector& val
 void CollectRichLine(const OdDbMline& line, Collector& values)
 {
     std::vector<CZtVariant> vertices;
+    vertices.reserve(static_cast<std::size_t>(line.numVertices()));
     for (int i = 0; i < line.numVertices(); ++i)
     {
         vertices.emplace_back(line.vertexAt(i));

@@ -137,7 +137,7 @@ TEST_F(BasicTexts, ProjectIsWellFormedAndListsItsFiles)
     {
         if (xml.readNext() == QXmlStreamReader::StartElement)
         {
-            noWarn += xml.name() == QLatin1String("NoWarn");
+            noWarn += xml.name() == QLatin1String("NoWarn") ? 1 : 0;
             if (xml.attributes().hasAttribute("Include"))
             {
                 includes += xml.name().toString() + ' ' + xml.attributes().value("Include").toString();

@@ -57,7 +57,7 @@ TEST_F(CommandFamilies, NumberOnInTheNextConversion)
     const QString second = ConversionRun(Journal, Cpp).Body();
     struct Case
     {
-        const char* stem;
+        const char* stem = nullptr;
         QStringList first;
         QStringList second;
     };
@@ -83,8 +83,8 @@ TEST_F(CommandFamilies, FailByExceptionWhenItemsAreMissing)
         R"({"action":{"id":10,"data":[{"int":1},{"points":[]}]}})",      // a point without a point
         R"({"action":{"id":10,"data":[{"int":1}]}})",                    // a method without points
         R"({"action":{"id":0,"data":[{"handles":[]},{"classes":[]}]}})", // a mirror without a line
-        R"({"action":{"id":6,"data":[{"handles":[]},{"classes":[]},{"handles":[]},{"classes":[]},{"points":[]},)"
-        R"({"handles":["2A"]},{"classes":["AcDbLine"]},{"points":[[0,0,0]]},{"doubles":[1,2,3,4,5]}]}})",
+        (R"({"action":{"id":6,"data":[{"handles":[]},{"classes":[]},{"handles":[]},{"classes":[]},{"points":[]},)"
+         R"({"handles":["2A"]},{"classes":["AcDbLine"]},{"points":[[0,0,0]]},{"doubles":[1,2,3,4,5]}]}})"),
     };
     for (const char* journal : journals)
     {

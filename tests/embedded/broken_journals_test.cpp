@@ -116,7 +116,7 @@ private:
         {
             QJsonObject object = value.toObject();
             const QStringList keys = object.keys();
-            const QString key = keys.at(static_cast<int>(below(static_cast<std::size_t>(keys.size()))));
+            const QString& key = keys.at(static_cast<int>(below(static_cast<std::size_t>(keys.size()))));
             const std::size_t choice = below(12);
             if (choice == 0)
             {

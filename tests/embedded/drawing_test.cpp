@@ -130,17 +130,24 @@ TEST(Drawing, EveryKeyOfEveryClassIsTakenWithItsTypeOnly)
         const auto keys = keysOf(className, classKeys);
         for (const auto& [key, form] : keys)
         {
-            whole += ",\"" + key + "\":" + Forms.at(form).first;
-            bad += "\n" + start + ",\"" + key + "\":" + Forms.at(form).second + "}}";
+            whole.append(",\"").append(key).append("\":").append(Forms.at(form).first);
+            bad.append("\n")
+                .append(start)
+                .append(",\"")
+                .append(key)
+                .append("\":")
+                .append(Forms.at(form).second)
+                .append("}}");
             if (form != 'A')
             {
-                bad += "\n" + start + ",\"" + key + "\":null}}";
+                bad.append("\n").append(start).append(",\"").append(key).append("\":null}}");
             }
         }
         const auto lines = std::count(bad.begin(), bad.end(), '\n');
-        EXPECT_EQ(FaultsOf(Head + "\n" + whole + "}}").faultCount, 0) << className;
+        EXPECT_EQ(FaultsOf(std::string(Head).append("\n").append(whole).append("}}")).faultCount, 0) << className;
         EXPECT_EQ(FaultsOf(bad).faultCount, lines) << className;
-        EXPECT_EQ(FaultsOf(Head + "\n" + start + ",\"nameless\":1}}").faultCount, 1) << className;
+        EXPECT_EQ(FaultsOf(std::string(Head).append("\n").append(start).append(",\"nameless\":1}}")).faultCount, 1)
+            << className;
     }
 }
 

@@ -31,6 +31,7 @@ private:
 class German final : public QTranslator
 {
 public:
+    Q_DISABLE_COPY(German)
     German() { QCoreApplication::installTranslator(this); }
     ~German() override { QCoreApplication::removeTranslator(this); }
     bool isEmpty() const override { return false; }

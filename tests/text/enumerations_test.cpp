@@ -45,6 +45,7 @@ QString NameSuggestedBy(QString word)
 class MarkingTranslator : public QTranslator
 {
 public:
+    Q_DISABLE_COPY(MarkingTranslator)
     explicit MarkingTranslator(const char* context) : m_context(context) { QCoreApplication::installTranslator(this); }
     ~MarkingTranslator() override { QCoreApplication::removeTranslator(this); }
 

@@ -47,9 +47,8 @@ private:
 };
 
 ParsedTemplate::ParsedTemplate(std::u16string_view text)
+    : plain_(std::ranges::all_of(text, [](char16_t c) { return c < 0x80; }))
 {
-    plain_ = std::ranges::all_of(text, [](char16_t c) { return c < 0x80; });
-
     std::vector<detail::Marker> markers;
     std::array<int, 100> ranks{};
     for (auto marker = detail::NextMarker(text, 0); marker; marker = detail::NextMarker(text, marker->end))
@@ -115,7 +114,7 @@ inline char16_t* Copy(char16_t* out, const char16_t* text, int length)
 
 void ParsedTemplate::AppendFilled(QString& out, std::span<const FillValue> values) const
 {
-    const std::size_t before = static_cast<std::size_t>(out.size());
+    const auto before = static_cast<std::size_t>(out.size());
     std::size_t size = before + plainText_.size(); // with quickLength units more than needed, for Copy
     for (std::size_t rank = 0; rank < occurrences_.size(); ++rank)
         size += static_cast<std::size_t>(occurrences_[rank]) * static_cast<std::size_t>(values[rank].Length());

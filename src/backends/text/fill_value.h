@@ -85,7 +85,7 @@ class FillValue
 {
 public:
     // Left without a value until Set: arrays of these are filled one after the other.
-    FillValue() = default;
+    FillValue() = default; // NOLINT(cppcoreguidelines-pro-type-member-init)
     ~FillValue() = default;
     FillValue(const FillValue&) = delete;
     FillValue& operator=(const FillValue&) = delete;

@@ -27,7 +27,7 @@ constexpr auto powersOfTen = []
 constexpr auto digitPairs = []
 {
     std::array<char16_t, 200> pairs{};
-    for (int i = 0; i < 100; ++i)
+    for (std::size_t i = 0; i < 100; ++i)
     {
         pairs[2 * i] = static_cast<char16_t>(u'0' + i / 10);
         pairs[2 * i + 1] = static_cast<char16_t>(u'0' + i % 10);
@@ -57,7 +57,7 @@ void PutDigits(char16_t* out, std::uint32_t value)
     static_assert(Count % 2 == 0 && Count <= 8);
     for (int i = Count - 2; i >= 0; i -= 2)
     {
-        std::memcpy(out + i, &digitPairs[value % 100 * 2], 2 * sizeof(char16_t));
+        std::memcpy(out + i, &digitPairs[std::size_t{value % 100} * 2], 2 * sizeof(char16_t));
         value /= 100;
     }
 }
@@ -119,7 +119,7 @@ SixDigits RoundToSixDigits(double value)
 template <class Write>
 QString TextBy(Write write, double value, char format, int precision)
 {
-    std::array<char16_t, numberRoom> room;
+    std::array<char16_t, numberRoom> room{};
     if (const char16_t* end = write(room.data(), value))
         return QString::fromUtf16(room.data(), static_cast<int>(end - room.data()));
     return QStringLiteral("%1").arg(value, 0, format, precision);
@@ -148,13 +148,13 @@ char16_t* WriteGeneral(char16_t* out, double value)
         *out = u'0'; // negative zero too
         return out + 1;
     }
-    if (!(size >= 0x1p-48 && size < 0x1p63))
+    if (size < 0x1p-48 || size >= 0x1p63 || std::isnan(size))
         return nullptr;
     if (value < 0)
         *out++ = u'-';
 
     const auto [number, exponent] = RoundToSixDigits(size);
-    std::array<char16_t, 6> digits;
+    std::array<char16_t, 6> digits{};
     PutDigits<6>(digits.data(), number);
     int count = 6;
     while (digits[count - 1] == u'0')

@@ -19,5 +19,6 @@ private:
     [[nodiscard]] QString SearchTrimmed(const TrimSearch& search) const;
 
     // Lower case on this side only.
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call)
     [[nodiscard]] QString FlagWord(bool flag) const override { return kv::ConverterText::FlagWord(flag); }
 };

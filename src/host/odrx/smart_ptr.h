@@ -25,7 +25,7 @@ public:
 
     ~OdSmartPtr() { reset(); }
 
-    OdSmartPtr& operator=(const OdSmartPtr& other)
+    OdSmartPtr& operator=(const OdSmartPtr& other) // NOLINT(bugprone-unhandled-self-assignment): copied and swapped
     {
         OdSmartPtr copy(other);
         std::swap(object_, copy.object_);
