@@ -43,6 +43,11 @@ public:
     [[nodiscard]] OdDbObjectPtr openObject(OdDbHandle handle) override;
     [[nodiscard]] OdDbObjectId currentLayoutId() override { return getOdDbObjectId(currentLayout_); }
     [[nodiscard]] OdDbObjectId getGroupId(const OdString& name) override;
+    [[nodiscard]] double getThickness() const override { return values_.get<double>("thickness"); }
+    [[nodiscard]] std::int16_t getInsUnits() const override
+    {
+        return static_cast<std::int16_t>(values_.get<std::int32_t>("insertUnits"));
+    }
     [[nodiscard]] double filletRadius() const override { return values_.get<double>("filletRadius"); }
     [[nodiscard]] double chamferFirstDistance() const override { return values_.get<double>("chamferFirstDistance"); }
     [[nodiscard]] double chamferSecondDistance() const override { return values_.get<double>("chamferSecondDistance"); }

@@ -26,6 +26,17 @@ public:
     const OdRxClass* isA() const override { return class_; }
     OdDbObjectId objectId() const override { return {&drawing_, handle_}; }
     bool isErased() const override { return flag("erased"); }
+    OdArray<OdResBufPtr> xData(const OdString& application) const override
+    {
+        for (const ApplicationData& data : values_.get<ExtendedData>("xdata"))
+        {
+            if (data.application == application)
+            {
+                return OdArray<OdResBufPtr>(data.items);
+            }
+        }
+        return {};
+    }
     OdArray<OdDbObjectId> getPersistentReactors() const override
     {
         return drawing_.presentIds(values_.get<HandleList>("reactors"));
@@ -38,6 +49,10 @@ protected:
     const QString& text(std::string_view key) const { return values_.get<QString>(key); }
     const OdGePoint3d& point(std::string_view key) const { return values_.get<OdGePoint3d>(key); }
     const OdCmColor& color(std::string_view key) const { return values_.get<OdCmColor>(key); }
+    OdArray<OdGePoint3d> points(std::string_view key) const
+    {
+        return OdArray<OdGePoint3d>(values_.get<PointList>(key));
+    }
     OdDbObjectId id(std::string_view key) const { return drawing_.getOdDbObjectId(values_.get<OdDbHandle>(key)); }
 
     // The item of a list of values; throws OdError_InvalidIndex outside it.
@@ -87,6 +102,8 @@ public:
     bool isLayout() const override { return flag("isLayout"); }
     bool isFromExternalReference() const override { return flag("isFromExternalReference"); }
     OdString comments() const override { return text("comments"); }
+    OdString pathName() const override { return text("pathName"); }
+    OdGePoint3d origin() const override { return point("origin"); }
     int blockScaling() const override { return integer("blockScaling"); }
     bool explodable() const override { return flag("explodable"); }
     int blockInsertUnits() const override { return integer("insertUnits"); }
@@ -105,6 +122,21 @@ public:
 };
 
 class Group final : public Stored<OdDbGroup>
+{
+public:
+    using Stored::Stored;
+    OdString getName() const override { return text("name"); }
+    bool isAnonymous() const override { return flag("isAnonymous"); }
+};
+
+class RichLineStyle final : public Stored<OdDbMlineStyle>
+{
+public:
+    using Stored::Stored;
+    OdString name() const override { return text("name"); }
+};
+
+class TableStyle final : public Stored<OdDbTableStyle>
 {
 public:
     using Stored::Stored;
@@ -168,11 +200,149 @@ public:
     double minorRadius() const override { return number("minorRadius"); }
 };
 
+class Point final : public Stored<OdDbPoint>
+{
+public:
+    using Stored::Stored;
+    OdGePoint3d position() const override { return point("position"); }
+};
+
+// A ray or an infinite line.
+template <class Base>
+class Straight final : public Stored<Base>
+{
+public:
+    using Stored<Base>::Stored;
+    OdGePoint3d basePoint() const override { return this->point("basePoint"); }
+    OdGePoint3d secondPoint() const override { return this->point("secondPoint"); }
+};
+
+template <class Base>
+class WithVertices : public Stored<Base>
+{
+public:
+    using Stored<Base>::Stored;
+    OdArray<OdGePoint3d> vertices() const override { return this->points("vertices"); }
+};
+
+template <class Base>
+class Polyline final : public WithVertices<Base>
+{
+public:
+    using WithVertices<Base>::WithVertices;
+    bool isClosed() const override { return this->flag("closed"); }
+};
+
+class Spline final : public Stored<OdDbSpline>
+{
+public:
+    using Stored::Stored;
+    OdArray<OdGePoint3d> fitPoints() const override { return points("fitPoints"); }
+    bool isClosed() const override { return flag("closed"); }
+    OdGePoint3d startFitTangent() const override { return point("startTangent"); }
+    OdGePoint3d endFitTangent() const override { return point("endTangent"); }
+    double fitTolerance() const override { return number("fitTolerance"); }
+};
+
+class Face final : public WithVertices<OdDbFace>
+{
+public:
+    using WithVertices::WithVertices;
+    std::array<bool, 4> visibleEdges() const override { return values_.get<EdgeFlags>("edges"); }
+};
+
+class PolygonMesh final : public WithVertices<OdDbPolygonMesh>
+{
+public:
+    using WithVertices::WithVertices;
+    int mSize() const override { return integer("mSize"); }
+    int nSize() const override { return integer("nSize"); }
+    bool isMClosed() const override { return flag("isMClosed"); }
+    bool isNClosed() const override { return flag("isNClosed"); }
+};
+
+class PolyFaceMesh final : public WithVertices<OdDbPolyFaceMesh>
+{
+public:
+    using WithVertices::WithVertices;
+    int numVertices() const override { return static_cast<int>(vertices().size()); }
+    OdArray<OdDbPolyFaceMesh::Face> faces() const override
+    {
+        return OdArray<OdDbPolyFaceMesh::Face>(values_.get<FaceList>("faces"));
+    }
+};
+
+template <class Base>
+class WithText : public Stored<Base>
+{
+public:
+    using Stored<Base>::Stored;
+    OdString textString() const override { return this->text("textString"); }
+    OdGePoint3d position() const override { return this->point("position"); }
+    OdGePoint3d alignmentPoint() const override { return this->point("alignmentPoint"); }
+    double height() const override { return this->number("height"); }
+    double rotation() const override { return this->number("rotation"); }
+};
+
+class AttributeDefinition final : public WithText<OdDbAttributeDefinition>
+{
+public:
+    using WithText::WithText;
+    OdString tag() const override { return text("tag"); }
+    OdString prompt() const override { return text("prompt"); }
+    OdString textStyleName() const override { return text("style"); }
+    OdString justification() const override { return text("justify"); }
+    bool isConstant() const override { return flag("constant"); }
+    bool isInvisible() const override { return flag("invisible"); }
+    bool isPreset() const override { return flag("preset"); }
+    bool isVerifiable() const override { return flag("verify"); }
+    bool lockPositionInBlock() const override { return flag("lockPosition"); }
+};
+
+class BlockReference final : public Stored<OdDbBlockReference>
+{
+public:
+    using Stored::Stored;
+    OdDbObjectId blockTableRecord() const override { return id("block"); }
+    OdGePoint3d position() const override { return point("position"); }
+    OdGePoint3d scaleFactors() const override { return point("scale"); }
+    double rotation() const override { return number("rotation"); }
+    OdArray<OdDbObjectId> attributeIds() const override
+    {
+        return drawing_.presentIds(values_.get<HandleList>("attributes"));
+    }
+};
+
+class Shape final : public Stored<OdDbShape>
+{
+public:
+    using Stored::Stored;
+    OdString name() const override { return text("name"); }
+    OdGePoint3d position() const override { return point("position"); }
+    double size() const override { return number("size"); }
+    double rotation() const override { return number("rotation"); }
+};
+
+class Viewport final : public Stored<OdDbViewport>
+{
+public:
+    using Stored::Stored;
+    bool isNonRectClipOn() const override { return flag("isNonRectClipped"); }
+};
+
 class MText final : public Stored<OdDbMText>
 {
 public:
     using Stored::Stored;
     OdString contents() const override { return text("contents"); }
+    OdGePoint3d location() const override { return point("location"); }
+    int attachment() const override { return integer("attachment"); }
+    double width() const override { return number("width"); }
+    double textHeight() const override { return number("textHeight"); }
+    double rotation() const override { return number("rotation"); }
+    double lineSpacingFactor() const override { return number("lineSpacingFactor"); }
+    OdDbObjectId textStyle() const override { return id("textStyle"); }
+    bool backgroundFillOn() const override { return flag("backgroundFillOn"); }
     double actualHeight() const override { return number("actualHeight"); }
     bool useBackgroundColorOn() const override { return flag("useBackgroundColorOn"); }
     OdCmColor getBackgroundFillColor() const override { return color("backgroundFillColor"); }
@@ -208,6 +378,8 @@ class Tolerance final : public Stored<OdDbFcf>
 public:
     using Stored::Stored;
 
+    OdGePoint3d location() const override { return point("location"); }
+
     // Line -1 asks for all lines.
     OdString getText(int line) const override
     {
@@ -222,15 +394,24 @@ public:
     int numVertices() const override { return static_cast<int>(vertices().size()); }
     OdGePoint3d vertexAt(int index) const override { return at(vertices(), index); }
     bool closedMline() const override { return flag("closedMline"); }
+    int justification() const override { return integer("justification"); }
+    double scale() const override { return number("scale"); }
+    OdString styleName() const override { return text("style"); }
 
 private:
     const PointList& vertices() const { return values_.get<PointList>("vertices"); }
 };
 
+// A table is a reference of a block that holds its lines and texts, which nobody asks for.
 class Table final : public Stored<OdDbTable>
 {
 public:
     using Stored::Stored;
+    OdDbObjectId blockTableRecord() const override { return {}; }
+    OdGePoint3d position() const override { return point("position"); }
+    OdGePoint3d scaleFactors() const override { return {1.0, 1.0, 1.0}; }
+    double rotation() const override { return 0.0; }
+    OdArray<OdDbObjectId> attributeIds() const override { return {}; }
     int numRows() const override { return static_cast<int>(rowHeights().size()); }
     int numColumns() const override { return static_cast<int>(columnWidths().size()); }
     double rowHeight(int row) const override { return at(rowHeights(), row); }
@@ -355,12 +536,13 @@ void addOwn(FactoryTable& table)
 FactoryTable allFactories()
 {
     FactoryTable table;
-    addPlain<OdDbObject, OdDbEntity, OdDbCurve, OdDbPoint, OdDbRay, OdDbXline, OdDbPolyline, OdDb2dPolyline,
-             OdDb3dPolyline, OdDbSpline, OdDbPolygonMesh, OdDbPolyFaceMesh, OdDbFace, OdDbSolid, OdDbTrace, OdDbText,
-             OdDbAttributeDefinition, OdDbBlockReference, OdDbRasterImage, OdDbShape, OdDbViewport, OdDbHatch,
-             OdDbRegion, OdDbOle2Frame, OdDbDimension, OdDbRadialDimensionLarge, OdDbMlineStyle, OdDbTableStyle>(table);
+    addPlain<OdDbObject, OdDbEntity, OdDbCurve, OdDb2dPolyline, OdDbRasterImage, OdDbHatch, OdDbRegion, OdDbOle2Frame,
+             OdDbDimension, OdDbRadialDimensionLarge>(table);
     addSymbols<OdDbSymbolTableRecord, OdDbLayerTableRecord, OdDbLinetypeTableRecord, OdDbDimStyleTableRecord,
                OdDbViewportTableRecord>(table);
+    addOwn<Point, Straight<OdDbRay>, Straight<OdDbXline>, Polyline<OdDbPolyline>, Polyline<OdDb3dPolyline>, Spline,
+           Face, PolygonMesh, PolyFaceMesh, WithVertices<OdDbSolid>, WithVertices<OdDbTrace>, WithText<OdDbText>,
+           AttributeDefinition, BlockReference, Shape, Viewport, RichLineStyle, TableStyle>(table);
     addOwn<Line, Circle, Arc, Ellipse, TextStyle, View, Block, Group, Layout, MText, Leader, Tolerance, RichLine, Table,
            RotatedDimension, TwoLineAngularDimension, ArcDimension, OrdinateDimension,
            WithChord<OdDbDiametricDimension>, WithChord<OdDbRadialDimension>,

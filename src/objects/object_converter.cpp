@@ -5,6 +5,7 @@
 #include "host/db/blocks.h"
 #include "host/db/curves.h"
 #include "host/db/dimensions.h"
+#include "host/db/polylines.h"
 #include "host/db/text.h"
 #include "host/kernel/services.h"
 #include "objects/variant_readers.h"
@@ -106,6 +107,16 @@ ResultCode CZtConverterKVAPIObject::ConvertCreation(const OdRxClass* objectClass
         {OdDbArc::desc(), &CZtConverterKVAPIObject::CreateArc},
         {OdDbXline::desc(), &CZtConverterKVAPIObject::CreateInfiniteLine},
         {OdDbEllipse::desc(), &CZtConverterKVAPIObject::CreateEllipse},
+        {OdDbPolyline::desc(), &CZtConverterKVAPIObject::CreatePolyline},
+        {OdDb3dPolyline::desc(), &CZtConverterKVAPIObject::CreatePolyline3D},
+        {OdDbMline::desc(), &CZtConverterKVAPIObject::CreateRichLine},
+        {OdDbSpline::desc(), &CZtConverterKVAPIObject::CreateSpline},
+        {OdDbLeader::desc(), &CZtConverterKVAPIObject::CreateLeader},
+        {OdDbSolid::desc(), &CZtConverterKVAPIObject::CreateSolid},
+        {OdDbTrace::desc(), &CZtConverterKVAPIObject::CreateTrace},
+        {OdDbFace::desc(), &CZtConverterKVAPIObject::CreateFace},
+        {OdDbPolygonMesh::desc(), &CZtConverterKVAPIObject::CreatePolygonMesh},
+        {OdDbPolyFaceMesh::desc(), &CZtConverterKVAPIObject::CreatePolyFaceMesh},
     };
     text.clear();
     if (Converter().FindKnownObject(handle) == nullptr)
@@ -150,6 +161,15 @@ QString CZtConverterKVAPIObject::ConvertClassProperties(const OdRxClass* objectC
         {OdDbArc::desc(), &CZtConverterKVAPIObject::ConvertArc},
         {OdDbXline::desc(), &CZtConverterKVAPIObject::ConvertInfiniteLine},
         {OdDbEllipse::desc(), &CZtConverterKVAPIObject::ConvertEllipse},
+        {OdDbPolyline::desc(), &CZtConverterKVAPIObject::ConvertPolyLine},
+        {OdDb3dPolyline::desc(), &CZtConverterKVAPIObject::ConvertPolyLine3D},
+        {OdDbMline::desc(), &CZtConverterKVAPIObject::ConvertRichLine},
+        {OdDbSpline::desc(), &CZtConverterKVAPIObject::ConvertSpline},
+        {OdDbSolid::desc(), &CZtConverterKVAPIObject::ConvertSolid},
+        {OdDbTrace::desc(), &CZtConverterKVAPIObject::ConvertTrace},
+        {OdDbFace::desc(), &CZtConverterKVAPIObject::ConvertFace},
+        {OdDbPolygonMesh::desc(), &CZtConverterKVAPIObject::ConvertPolygonMesh},
+        {OdDbPolyFaceMesh::desc(), &CZtConverterKVAPIObject::ConvertPolyFaceMesh},
     };
     const auto branch = branches.find(objectClass);
     return branch != branches.end() ? (this->*branch->second)(pass) : QString();

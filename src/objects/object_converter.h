@@ -5,7 +5,9 @@
 #include "core/converter_impl.h"
 #include "core/enum_kind.h"
 #include "host/db/color.h"
+#include "host/db/object.h"
 #include "host/ge/point2d.h"
+#include "host/kernel/services.h"
 #include "objects/axis.h"
 #include "objects/created_objects.h"
 #include "objects/display_words.h"
@@ -14,6 +16,8 @@
 
 #include <array>
 #include <optional>
+
+class OdDbPolyFaceMesh;
 
 class CZtConverterKVAPIObject
 {
@@ -92,6 +96,16 @@ private:
     [[nodiscard]] static bool GetObjectTypeName(OdDbHandle handle, const OdRxClass* objectClass, QString& typeName);
     [[nodiscard]] PropertyList PropertiesOf(const CZtPropertyList& elements) const;
 
+    // The object of a handle in the active drawing; null when it is gone or of another class.
+    template <class T>
+    [[nodiscard]] static OdSmartPtr<T> Opened(OdDbHandle handle)
+    {
+        CZtDocument* document = ACTIVE_DOCUMENT();
+        const OdDbObjectPtr object =
+            document != nullptr ? document->GetZtDatabase()->getOdDbObjectId(handle).openObject() : OdDbObjectPtr();
+        return object && object->isKindOf(T::desc()) ? OdSmartPtr<T>::cast(object) : OdSmartPtr<T>();
+    }
+
     // The texts of referenced objects; empty when the object is gone.
     [[nodiscard]] QString SetLayer(const QString& variable, const OdDbObjectId& layer);
     [[nodiscard]] QString SetLineStyle(const QString& variable, const QString& word, const OdDbObjectId& lineStyle);
@@ -108,6 +122,22 @@ private:
     [[nodiscard]] QString ChangePoint(const PropertyPass& pass, const CoordinateNames& names, PointWriter write);
     [[nodiscard]] QString ChangeCoordinates(const PropertyPass& pass, const CoordinateNames& names, const char* getter,
                                             const char* setter);
+
+    // A change of one coordinate of a vertex, whose 0-based index is the tag; nothing without an index.
+    struct VertexChange
+    {
+        Axis axis;
+        double value;
+        std::int32_t index;
+    };
+    [[nodiscard]] static std::optional<VertexChange> TakeVertex(const PropertyPass& pass, const char* name, Axis axis);
+    [[nodiscard]] QString ChangeVertices(const PropertyPass& pass, const CoordinateNames& names, const char* getter,
+                                         const char* setter);
+    [[nodiscard]] QString ChangeCorners(const PropertyPass& pass, std::int32_t lastIndex);
+    [[nodiscard]] QString ChangeSwitch(const PropertyPass& pass, const char* name, const char* word);
+    [[nodiscard]] QString ChangeWord(const PropertyPass& pass, const char* name, const char* word, const char* yes);
+    [[nodiscard]] QString ChangeEnum(const PropertyPass& pass, const char* name, kv::EnumKind kind, const char* word);
+    [[nodiscard]] QString ChangeText(const PropertyPass& pass, const char* name, const char* word);
 
     // Curves and points.
     [[nodiscard]] QString CreateLine(const Creation& creation);
@@ -126,6 +156,37 @@ private:
     [[nodiscard]] QString ConvertArc(const PropertyPass& pass);
     [[nodiscard]] QString ConvertInfiniteLine(const PropertyPass& pass);
     [[nodiscard]] QString ConvertEllipse(const PropertyPass& pass);
+
+    // Polylines, splines, leaders, meshes and filled shapes.
+    [[nodiscard]] QString CreatePolyline(const Creation& creation);
+    [[nodiscard]] QString CreatePolyline3D(const Creation& creation);
+    [[nodiscard]] QString CreateRichLine(const Creation& creation);
+    [[nodiscard]] QString CreateSpline(const Creation& creation);
+    [[nodiscard]] QString CreateLeader(const Creation& creation);
+    [[nodiscard]] QString CreateSolid(const Creation& creation);
+    [[nodiscard]] QString CreateTrace(const Creation& creation);
+    [[nodiscard]] QString CreateFace(const Creation& creation);
+    [[nodiscard]] QString CreatePolygonMesh(const Creation& creation);
+    [[nodiscard]] QString CreatePolyFaceMesh(const Creation& creation);
+    [[nodiscard]] static QString RichLineJustification(std::int32_t index);
+    [[nodiscard]] QString InsertSpline(const QString& variable, const OdArray<OdGePoint3d>& points, bool closed,
+                                       const OdGePoint3d& startTangent, const OdGePoint3d& endTangent,
+                                       double tolerance);
+    [[nodiscard]] QString InsertTrace(const QString& variable, const OdArray<OdGePoint3d>& points);
+    [[nodiscard]] QString InsertPolygonMesh(const QString& variable, const OdArray<OdGePoint3d>& points, std::int32_t m,
+                                            std::int32_t n, bool closedM, bool closedN);
+    [[nodiscard]] QString InsertPolyFaceMesh(const QString& variable, const OdArray<OdGePoint3d>& points,
+                                             const OdDbPolyFaceMesh& mesh);
+    [[nodiscard]] QString ChangeSegment(const PropertyPass& pass, const char* name, const char* setter);
+    [[nodiscard]] QString ConvertPolyLine(const PropertyPass& pass);
+    [[nodiscard]] QString ConvertPolyLine3D(const PropertyPass& pass);
+    [[nodiscard]] QString ConvertRichLine(const PropertyPass& pass);
+    [[nodiscard]] QString ConvertSpline(const PropertyPass& pass);
+    [[nodiscard]] QString ConvertSolid(const PropertyPass& pass);
+    [[nodiscard]] QString ConvertTrace(const PropertyPass& pass);
+    [[nodiscard]] QString ConvertFace(const PropertyPass& pass);
+    [[nodiscard]] QString ConvertPolygonMesh(const PropertyPass& pass);
+    [[nodiscard]] QString ConvertPolyFaceMesh(const PropertyPass& pass);
 
     CZtConverterKVAPIImpl* converter_;
     CreatedObjects createdObjects_;

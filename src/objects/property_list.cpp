@@ -44,6 +44,20 @@ PropertyList::Elements::const_iterator PropertyList::Find(const char* name) cons
                                 });
 }
 
+OdArray<OdGePoint3d> PropertyList::TakePoints(const char* name, ConsumedProperties* consumed)
+{
+    const CZtVariant value = TakeProperty(name, consumed);
+    OdArray<OdGePoint3d> points;
+    if (const CZtVariantCollection* collection = value.GetCollection())
+    {
+        for (const CZtVariantCollectionElement& element : collection->GetCollectionDataForRead())
+        {
+            points.append(element.GetValue()->GetPoint3d());
+        }
+    }
+    return points;
+}
+
 bool PropertyList::Holds(const char* name) const
 {
     return Find(name) != elements_.end();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/kernel/journal_events.h"
+#include "host/odrx/array.h"
 #include "objects/display_words.h"
 
 // The elements that a pass has taken, in the order of taking.
@@ -35,6 +36,9 @@ public:
 
     // A number, or the default when it is missing.
     double TakeDouble(const char* name, double missing, ConsumedProperties* consumed = nullptr);
+
+    // The points of a list; empty when it is missing or no list.
+    OdArray<OdGePoint3d> TakePoints(const char* name, ConsumedProperties* consumed = nullptr);
 
     // True when the list holds an element of the name.
     [[nodiscard]] bool Holds(const char* name) const;

@@ -22,3 +22,13 @@
 {
     return words.Matches(DisplayWords::Context::PropertyValues, word, TextOf(value), sensitivity);
 }
+
+// Whether a switch is on that arrives as a selection, whose first element says "Yes", or as an element with the word.
+[[nodiscard]] inline bool IsSwitchedOn(const DisplayWords& words, const CZtVariant& value)
+{
+    if (const CZtVariantCollection* selection = value.GetCollection())
+    {
+        return selection->GetCurrentIndex() == 0;
+    }
+    return value.GetType() == CZtVariant::kElement && IsWord(words, value, "Yes", Qt::CaseInsensitive);
+}

@@ -192,7 +192,7 @@ class Results(ProgramTest):
         table = self.run_program("check", "events.jsonl").stdout
         self.assertRegex(table, r"(?m)^ *2  added +AcDbLine +translated$")
         self.assertRegex(table, r"(?m)^ *4  command +LINE ")
-        self.assertRegex(table, r"(?m)^ *5  action +3 +no text$")
+        self.assertRegex(table, r"(?m)^ *5  action +12 +no text$")
         summary = self.run_program("check", "events.jsonl", "--summary").stdout
         self.assertTrue(table.endswith("\n\n" + summary))
         self.assertRegex(summary, r"(?m)^added +2 +2 +0 +0 +0$")

@@ -23,6 +23,8 @@ public:
     OdDbObjectPtr openObject(OdDbHandle /*handle*/) override { return {}; }
     OdDbObjectId currentLayoutId() override { return {}; }
     OdDbObjectId getGroupId(const OdString& /*name*/) override { return {}; }
+    double getThickness() const override { return 0.0; }
+    std::int16_t getInsUnits() const override { return 0; }
     double filletRadius() const override { return 0.0; }
     double chamferFirstDistance() const override { return 0.0; }
     double chamferSecondDistance() const override { return 0.0; }

@@ -81,7 +81,7 @@ QString CZtConverterKVAPIObjectCPP::WriteInsertRegion(const QString& target, con
     return text;
 }
 
-QString CZtConverterKVAPIObjectCPP::CoordinateLines(std::int32_t number, const OdArray<OdGePoint2d>& points)
+QString CZtConverterKVAPIObjectCPP::CoordinateLines(std::int32_t number, const OdArray<OdGePoint2d>& points) const
 {
     QString text;
     for (const OdGePoint2d& point : points)

@@ -14,7 +14,22 @@ public:
 
 private:
     // Coordinates of an array, a line for each point.
-    [[nodiscard]] QString CoordinateLines(std::int32_t number, const OdArray<OdGePoint2d>& points);
+    [[nodiscard]] QString CoordinateLines(std::int32_t number, const OdArray<OdGePoint2d>& points) const;
+    [[nodiscard]] QString CoordinateLines(std::int32_t number, const OdArray<OdGePoint3d>& points) const;
+
+    // The array Coordinates<number> of the points, and an empty line.
+    template <class Point>
+    [[nodiscard]] QString DeclarePoints(std::int32_t number, const OdArray<Point>& points) const
+    {
+        return Statement("%1kvDoubleArray Coordinates%3;%2"
+                         "%1Coordinates%3.clear();%2%2"
+                         "%4%2",
+                         number, CoordinateLines(number, points));
+    }
+
+    // The elements of a list of integers.
+    [[nodiscard]] QString IntegerLines(const char* list, std::int32_t number,
+                                       const OdArray<std::int32_t>& values) const;
 
     // Pieces of the backgrounds of views.
     [[nodiscard]] QString BackgroundHead(std::int32_t number, const QString& variable);

@@ -83,11 +83,7 @@ QString CZtConverterKVAPIObjectCPPCOM::WriteInsertHatchByBoundary(const QString&
     const SafeArrayText coordinates(SafeArrayText::Kind::Doubles, "variant", number);
     const SafeArrayText pointCounts(SafeArrayText::Kind::Integers, "BoundaryPointCountLongArray", countNumber);
     const QStringList values = CoordinateTexts(points, kv::FixedText);
-    QStringList countTexts;
-    for (const std::int32_t count : counts)
-    {
-        countTexts << QString::number(count);
-    }
+    const QStringList countTexts = IntegerTexts(counts);
     QString text = coordinates.Declare(CurrentIndent(), values.size());
     text += pointCounts.Declare(CurrentIndent(), countTexts.size());
     text += kv::LineEnd();

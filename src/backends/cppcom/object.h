@@ -1,6 +1,7 @@
 // C++ COM: the object side.
 #pragma once
 
+#include "backends/cppcom/safe_array.h"
 #include "backends/text/text_operations.h"
 
 class CZtConverterKVAPIObjectCPPCOM final : public kv::ObjectText
@@ -13,6 +14,16 @@ public:
 #undef OPERATION
 
 private:
+    // The safe array variant<number> of the points' coordinates, and an empty line.
+    template <class Point>
+    [[nodiscard]] QString DeclarePoints(std::int32_t number, const OdArray<Point>& points) const
+    {
+        const SafeArrayText array(SafeArrayText::Kind::Doubles, "variant", number);
+        const QStringList values = CoordinateTexts(points, kv::FixedText);
+        return array.Declare(CurrentIndent(), values.size()) + kv::LineEnd() + array.Elements(CurrentIndent(), values) +
+               kv::LineEnd();
+    }
+
     // Flags of the automation interfaces.
     [[nodiscard]] QString FlagWord(bool flag) const override;
 };

@@ -108,3 +108,13 @@ QStringList CoordinateTexts(const OdArray<OdGePoint2d>& points, NumberForm form)
     }
     return texts;
 }
+
+QStringList IntegerTexts(const OdArray<std::int32_t>& values)
+{
+    QStringList texts;
+    for (const std::int32_t value : values)
+    {
+        texts.append(QString::number(value));
+    }
+    return texts;
+}

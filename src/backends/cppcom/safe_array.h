@@ -49,3 +49,6 @@ using NumberForm = QString (*)(double);
 [[nodiscard]] QStringList CoordinateTexts(const OdGePoint3d& point, NumberForm form);
 [[nodiscard]] QStringList CoordinateTexts(const OdArray<OdGePoint3d>& points, NumberForm form);
 [[nodiscard]] QStringList CoordinateTexts(const OdArray<OdGePoint2d>& points, NumberForm form);
+
+// The integers as elements.
+[[nodiscard]] QStringList IntegerTexts(const OdArray<std::int32_t>& values);

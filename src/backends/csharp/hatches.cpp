@@ -71,14 +71,9 @@ QString CZtConverterKVAPIObjectCSharp::WriteInsertHatchByBoundary(const QString&
                                                                   const QString& pattern, double scale, double angle)
 {
     [[maybe_unused]] const std::int32_t spent = NextLocalNumber();
-    QStringList loops;
-    for (const std::int32_t count : counts)
-    {
-        loops.append(QString::number(count));
-    }
     return Statement("%1%8 = kvSketchManager.InsertHatchByBoundary( new int[]{%3}, new double[]{%4}, "
                      "\"%5\", %6, %7 );%2",
-                     loops.join(QLatin1Char(',')), kv::CoordinateList<kv::FixedPoint2d>(points), pattern, Fixed{scale},
+                     kv::IntegerList(counts), kv::CoordinateList<kv::FixedPoint2d>(points), pattern, Fixed{scale},
                      Fixed{angle}, target);
 }
 

@@ -71,16 +71,10 @@ QString CZtConverterKVAPIObjectJavaScript::WriteInsertHatchByBoundary(const QStr
                                                                       double angle)
 {
     const std::int32_t number = NextLocalNumber();
-    QString countList;
-    for (const std::int32_t count : counts)
-    {
-        countList += kv::Fill("%1,", count);
-    }
-    countList.chop(1);
     QString text = Line("%1var hatchPoints%2 = new Array(%3);\n", number, kv::CoordinateList<kv::FixedPoint2d>(points));
     text += kv::LineEnd();
     // The count of a single loop makes an array of that length; the format's.
-    text += Line("%1var boundaryPointsCount%2 = new Array(%3);\n", number, countList);
+    text += Line("%1var boundaryPointsCount%2 = new Array(%3);\n", number, kv::IntegerList(counts));
     text += kv::LineEnd();
     text += Statement("%1var %7 = mSkMgr.InsertHatchByBoundary(boundaryPointsCount%3, hatchPoints%3, \"%4\", %5, "
                       "%6);%2",

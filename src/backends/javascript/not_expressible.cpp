@@ -1,5 +1,5 @@
 // What JavaScript leaves unsaid: blocks, comments and declarations, since a variable is declared where it is assigned;
-// selections by method; and the reserved operations.
+// selections by method; vertices of two-dimensional polylines; and the reserved operations.
 #include "backends/javascript/converter.h"
 #include "backends/javascript/object.h"
 
@@ -69,6 +69,12 @@ QString CZtConverterKVAPIObjectJavaScript::WriteObjectModifiedEnd()
 }
 
 QString CZtConverterKVAPIObjectJavaScript::WriteDeclareBlockDefinition(const QString& /*variable*/)
+{
+    return {};
+}
+
+QString CZtConverterKVAPIObjectJavaScript::WriteSetVertex2D(const QString& /*variable*/, Axis /*axis*/,
+                                                            double /*value*/, std::int32_t /*index*/)
 {
     return {};
 }

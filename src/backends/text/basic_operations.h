@@ -57,6 +57,28 @@ protected:
         return 2 * static_cast<int>(points.size()) - 1;
     }
 
+    // The array Coordinates<number> of the points, and an empty line.
+    [[nodiscard]] QString DeclarePoints(std::int32_t number, std::span<const OdGePoint2d> points) const
+    {
+        return Base::Statement("%1Dim Coordinates%3(%4) As Double%2%2"
+                               "%5%2",
+                               number, HighestIndex2D(points), WriteCoordinateElements2D(number, points));
+    }
+
+    [[nodiscard]] QString DeclarePoints(std::int32_t number, std::span<const OdGePoint3d> points) const
+    {
+        return Base::Statement("%1Dim Coordinates%3(%4) As Double%2%2"
+                               "%5%2",
+                               number, 3 * static_cast<int>(points.size()) - 1,
+                               WriteCoordinateElements3D(number, points));
+    }
+
+    // A text of several lines inside a literal, which can't hold a line feed.
+    [[nodiscard]] static QString JoinedLines(QString text)
+    {
+        return text.replace(QLatin1Char('\n'), QLatin1String("\" & vbLf & \""));
+    }
+
     // The elements of the array <name><number>, from index 0 on.
     [[nodiscard]] QString CountElements(const char* name, std::int32_t number,
                                         std::span<const std::int32_t> counts) const

@@ -6,6 +6,8 @@
 
 #include <QtCore/QStringList>
 
+#include <span>
+
 namespace kv
 {
 
@@ -19,6 +21,28 @@ template <AnyOf<GeneralPoint2d, FixedPoint2d> Form>
         pairs.append(Fill<Form>("%1,%2", Form{point}));
     }
     return pairs.join(QLatin1Char(','));
+}
+
+template <AnyOf<GeneralPoint, FixedPoint> Form>
+[[nodiscard]] QString CoordinateList(std::span<const OdGePoint3d> points)
+{
+    QStringList triples;
+    for (const OdGePoint3d& point : points)
+    {
+        triples.append(Fill<Form>("%1,%2,%3", Form{point}));
+    }
+    return triples.join(QLatin1Char(','));
+}
+
+// The integers, "a,b" without blanks.
+[[nodiscard]] inline QString IntegerList(std::span<const std::int32_t> values)
+{
+    QStringList texts;
+    for (const std::int32_t value : values)
+    {
+        texts.append(QString::number(value));
+    }
+    return texts.join(QLatin1Char(','));
 }
 
 } // namespace kv

@@ -13,6 +13,10 @@ class KVHOST_API OdDbBlockTableRecord : public OdDbSymbolTableRecord
     // True for the contents of another drawing file.
     [[nodiscard]] virtual bool isFromExternalReference() const = 0;
 
+    // The file of an external reference, and the base point.
+    [[nodiscard]] virtual OdString pathName() const = 0;
+    [[nodiscard]] virtual OdGePoint3d origin() const = 0;
+
     // The entities of the block in their order, those that are erased left out.
     [[nodiscard]] virtual OdArray<OdDbObjectId> entityIds() const = 0;
 
@@ -32,6 +36,13 @@ class KVHOST_API OdDbBlockTableRecord : public OdDbSymbolTableRecord
 class KVHOST_API OdDbBlockReference : public OdDbEntity
 {
     ODRX_DECLARE_MEMBERS(OdDbBlockReference)
+
+    // The definition; where, how scaled in each direction and at which angle in radians it stands; its attributes.
+    [[nodiscard]] virtual OdDbObjectId blockTableRecord() const = 0;
+    [[nodiscard]] virtual OdGePoint3d position() const = 0;
+    [[nodiscard]] virtual OdGePoint3d scaleFactors() const = 0;
+    [[nodiscard]] virtual double rotation() const = 0;
+    [[nodiscard]] virtual OdArray<OdDbObjectId> attributeIds() const = 0;
 };
 
 class KVHOST_API OdDbRasterImage : public OdDbEntity
@@ -42,6 +53,12 @@ class KVHOST_API OdDbRasterImage : public OdDbEntity
 class KVHOST_API OdDbShape : public OdDbEntity
 {
     ODRX_DECLARE_MEMBERS(OdDbShape)
+
+    // The name in its shape file; where it stands, its size in drawing units and its angle in radians.
+    [[nodiscard]] virtual OdString name() const = 0;
+    [[nodiscard]] virtual OdGePoint3d position() const = 0;
+    [[nodiscard]] virtual double size() const = 0;
+    [[nodiscard]] virtual double rotation() const = 0;
 };
 
 class KVHOST_API OdDbTable : public OdDbBlockReference
@@ -62,6 +79,9 @@ class KVHOST_API OdDbTable : public OdDbBlockReference
 class KVHOST_API OdDbViewport : public OdDbEntity
 {
     ODRX_DECLARE_MEMBERS(OdDbViewport)
+
+    // True for a viewport whose edge is an entity of its own.
+    [[nodiscard]] virtual bool isNonRectClipOn() const = 0;
 };
 
 class KVHOST_API OdDbHatch : public OdDbEntity

@@ -51,14 +51,24 @@ class KVHOST_API OdDbEllipse : public OdDbCurve
 class KVHOST_API OdDbPoint : public OdDbEntity
 {
     ODRX_DECLARE_MEMBERS(OdDbPoint)
+
+    [[nodiscard]] virtual OdGePoint3d position() const = 0;
 };
 
 class KVHOST_API OdDbRay : public OdDbCurve
 {
     ODRX_DECLARE_MEMBERS(OdDbRay)
+
+    // Where the ray begins, and a second point that it passes.
+    [[nodiscard]] virtual OdGePoint3d basePoint() const = 0;
+    [[nodiscard]] virtual OdGePoint3d secondPoint() const = 0;
 };
 
 class KVHOST_API OdDbXline : public OdDbCurve
 {
     ODRX_DECLARE_MEMBERS(OdDbXline)
+
+    // Two points of the line.
+    [[nodiscard]] virtual OdGePoint3d basePoint() const = 0;
+    [[nodiscard]] virtual OdGePoint3d secondPoint() const = 0;
 };

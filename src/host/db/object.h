@@ -4,6 +4,7 @@
 #include "host/db/object_id.h"
 #include "host/odrx/array.h"
 #include "host/odrx/object.h"
+#include "host/odrx/res_buf.h"
 #include "host/odrx/string.h"
 
 class KVHOST_API OdDbObject : public OdRxObject
@@ -16,6 +17,9 @@ class KVHOST_API OdDbObject : public OdRxObject
 
     // True when the object was erased and only waits for an undo.
     [[nodiscard]] virtual bool isErased() const = 0;
+
+    // The extended data that an application attached, its name first; empty when there is none.
+    [[nodiscard]] virtual OdArray<OdResBufPtr> xData(const OdString& application) const = 0;
 
     // The objects that are told of changes of this one, in their order.
     [[nodiscard]] virtual OdArray<OdDbObjectId> getPersistentReactors() const = 0;

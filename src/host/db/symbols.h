@@ -43,19 +43,24 @@ class KVHOST_API OdDbViewportTableRecord : public OdDbSymbolTableRecord
 class KVHOST_API OdDbMlineStyle : public OdDbObject
 {
     ODRX_DECLARE_MEMBERS(OdDbMlineStyle)
+
+    [[nodiscard]] virtual OdString name() const = 0;
 };
 
 class KVHOST_API OdDbTableStyle : public OdDbObject
 {
     ODRX_DECLARE_MEMBERS(OdDbTableStyle)
+
+    [[nodiscard]] virtual OdString getName() const = 0;
 };
 
 class KVHOST_API OdDbGroup : public OdDbObject
 {
     ODRX_DECLARE_MEMBERS(OdDbGroup)
 
-    // The name in the dictionary of groups.
+    // The name in the dictionary of groups, and whether the application made it up.
     [[nodiscard]] virtual OdString getName() const = 0;
+    [[nodiscard]] virtual bool isAnonymous() const = 0;
 };
 
 class KVHOST_API OdDbLayout : public OdDbObject

@@ -16,6 +16,10 @@ class KVHOST_API CZtDatabase : public OdDbDatabase
     [[nodiscard]] virtual OdDbObjectId getGroupId(const OdString& name) = 0;
 
     // The values that fillet and chamfer use: lengths in drawing units, the angle in radians.
+    // The thickness of new entities, in drawing units, and the number of the units in which blocks are inserted.
+    [[nodiscard]] virtual double getThickness() const = 0;
+    [[nodiscard]] virtual std::int16_t getInsUnits() const = 0;
+
     [[nodiscard]] virtual double filletRadius() const = 0;
     [[nodiscard]] virtual double chamferFirstDistance() const = 0;
     [[nodiscard]] virtual double chamferSecondDistance() const = 0;

@@ -1,0 +1,15 @@
+// JavaScript texts of leaders; the logic stands in objects/leaders.cpp.
+#include "backends/javascript/object.h"
+
+using kv::Fixed;
+
+QString CZtConverterKVAPIObjectJavaScript::WriteInsertLeader(const QString& variable,
+                                                             const OdArray<OdGePoint3d>& points, double width,
+                                                             const QString& content)
+{
+    const std::int32_t number = NextLocalNumber();
+    QString text = DeclarePoints("leaderPoints", number, points);
+    text += Statement("%1var %6 = mSkMgr.InsertLeader(leaderPoints%3, %4, \"%5\");%2", number, Fixed{width}, content,
+                      variable);
+    return text;
+}

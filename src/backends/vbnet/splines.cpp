@@ -1,0 +1,13 @@
+// VB.NET texts of splines; the logic stands in objects/splines.cpp.
+#include "backends/vbnet/object.h"
+
+QString CZtConverterKVAPIObjectVbNet::WriteInsertSpline(const QString& variable, const OdArray<OdGePoint3d>& points,
+                                                        bool closed, const OdGePoint3d& startTangent,
+                                                        const OdGePoint3d& endTangent)
+{
+    const std::int32_t number = NextLocalNumber();
+    QString text = DeclarePoints(number, points);
+    text += Statement("%1%11 = kvSketchManager.InsertSpline( Coordinates%3, %4, %5, %6, %7, %8, %9, %10 )%2", number,
+                      FlagWord(closed), startTangent, endTangent, variable);
+    return text;
+}
