@@ -1,4 +1,5 @@
 // Changed properties in the forms that most classes share.
+#include "core/constant_form.h"
 #include "objects/object_converter.h"
 #include "objects/variant_readers.h"
 
@@ -125,4 +126,22 @@ QString CZtConverterKVAPIObject::ChangeText(const PropertyPass& pass, const char
     return value.IsNull() || pass.created
                ? QString()
                : WriteSetStringProperty(pass.variable, QLatin1String(word), TextOf(value), true);
+}
+
+QString CZtConverterKVAPIObject::SetPoint(const QString& variable, const char* getter, const char* setter,
+                                          const OdGePoint3d& point)
+{
+    const std::array values = {point.x, point.y, point.z};
+    QString text;
+    for (std::size_t i = 0; i < values.size(); ++i)
+    {
+        text +=
+            WriteSetPointProperty(variable, Axes.at(i), QLatin1String(getter), QLatin1String(setter), values.at(i), -1);
+    }
+    return text;
+}
+
+QString CZtConverterKVAPIObject::SetConstant(const QString& variable, const char* word, const char* constant)
+{
+    return WriteSetStringProperty(variable, QLatin1String(word), ConstantForLanguage(QLatin1String(constant)), false);
 }

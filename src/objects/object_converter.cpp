@@ -117,6 +117,11 @@ ResultCode CZtConverterKVAPIObject::ConvertCreation(const OdRxClass* objectClass
         {OdDbFace::desc(), &CZtConverterKVAPIObject::CreateFace},
         {OdDbPolygonMesh::desc(), &CZtConverterKVAPIObject::CreatePolygonMesh},
         {OdDbPolyFaceMesh::desc(), &CZtConverterKVAPIObject::CreatePolyFaceMesh},
+        {OdDbText::desc(), &CZtConverterKVAPIObject::CreateSimpleNote},
+        {OdDbMText::desc(), &CZtConverterKVAPIObject::CreateNote},
+        {OdDbFcf::desc(), &CZtConverterKVAPIObject::CreateTolerance},
+        {OdDbAttributeDefinition::desc(), &CZtConverterKVAPIObject::CreateAttributeDefinition},
+        {OdDbTextStyleTableRecord::desc(), &CZtConverterKVAPIObject::CreateTextStyle},
     };
     text.clear();
     if (Converter().FindKnownObject(handle) == nullptr)
@@ -170,6 +175,11 @@ QString CZtConverterKVAPIObject::ConvertClassProperties(const OdRxClass* objectC
         {OdDbFace::desc(), &CZtConverterKVAPIObject::ConvertFace},
         {OdDbPolygonMesh::desc(), &CZtConverterKVAPIObject::ConvertPolygonMesh},
         {OdDbPolyFaceMesh::desc(), &CZtConverterKVAPIObject::ConvertPolyFaceMesh},
+        {OdDbText::desc(), &CZtConverterKVAPIObject::ConvertSimpleNote},
+        {OdDbMText::desc(), &CZtConverterKVAPIObject::ConvertNote},
+        {OdDbFcf::desc(), &CZtConverterKVAPIObject::ConvertTolerance},
+        {OdDbAttributeDefinition::desc(), &CZtConverterKVAPIObject::ConvertAttributeDefinition},
+        {OdDbTextStyleTableRecord::desc(), &CZtConverterKVAPIObject::ConvertTextStyle},
     };
     const auto branch = branches.find(objectClass);
     return branch != branches.end() ? (this->*branch->second)(pass) : QString();

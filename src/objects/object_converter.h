@@ -8,6 +8,7 @@
 #include "host/db/object.h"
 #include "host/ge/point2d.h"
 #include "host/kernel/services.h"
+#include "objects/attribute_flags.h"
 #include "objects/axis.h"
 #include "objects/created_objects.h"
 #include "objects/display_words.h"
@@ -17,6 +18,8 @@
 #include <array>
 #include <optional>
 
+class OdDbFcf;
+class OdDbMText;
 class OdDbPolyFaceMesh;
 
 class CZtConverterKVAPIObject
@@ -113,6 +116,11 @@ private:
     // The insertion of an object as the drawing holds it; empty for a class that the API doesn't insert.
     [[nodiscard]] QString InsertStored(const OdDbObject& object, const QString& variable);
 
+    // All three coordinates of a point, and a setting by a constant that the logic holds.
+    [[nodiscard]] QString SetPoint(const QString& variable, const char* getter, const char* setter,
+                                   const OdGePoint3d& point);
+    [[nodiscard]] QString SetConstant(const QString& variable, const char* word, const char* constant);
+
     // Changed properties: each is taken from the list and written only when the object isn't new. The names are those
     // of the journal, the words those of the API.
     using CoordinateNames = std::array<const char*, 3>;
@@ -187,6 +195,23 @@ private:
     [[nodiscard]] QString ConvertFace(const PropertyPass& pass);
     [[nodiscard]] QString ConvertPolygonMesh(const PropertyPass& pass);
     [[nodiscard]] QString ConvertPolyFaceMesh(const PropertyPass& pass);
+
+    // Texts, notes, attribute definitions, tolerances, text styles and the annotation of a leader.
+    [[nodiscard]] QString CreateSimpleNote(const Creation& creation);
+    [[nodiscard]] QString CreateNote(const Creation& creation);
+    [[nodiscard]] QString CreateTolerance(const Creation& creation);
+    [[nodiscard]] QString CreateAttributeDefinition(const Creation& creation);
+    [[nodiscard]] QString CreateTextStyle(const Creation& creation);
+    [[nodiscard]] QString SetNoteDirection(const QString& variable, const CZtVariant& direction);
+    [[nodiscard]] QString InsertStoredNote(const OdDbMText& note, const QString& variable);
+    [[nodiscard]] QString LeaderAnnotation(const QString& leader, const OdDbObjectId& annotation);
+    [[nodiscard]] QString LeaderNote(const QString& leader, const OdDbMText& note);
+    [[nodiscard]] QString SetLeaderAnnotation(const QString& variable, const OdDbFcf& tolerance);
+    [[nodiscard]] QString ConvertSimpleNote(const PropertyPass& pass);
+    [[nodiscard]] QString ConvertNote(const PropertyPass& pass);
+    [[nodiscard]] QString ConvertTolerance(const PropertyPass& pass);
+    [[nodiscard]] QString ConvertAttributeDefinition(const PropertyPass& pass);
+    [[nodiscard]] QString ConvertTextStyle(const PropertyPass& pass);
 
     CZtConverterKVAPIImpl* converter_;
     CreatedObjects createdObjects_;

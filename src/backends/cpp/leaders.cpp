@@ -12,3 +12,14 @@ QString CZtConverterKVAPIObjectCPP::WriteInsertLeader(const QString& variable, c
                       content, variable);
     return text;
 }
+
+QString CZtConverterKVAPIObjectCPP::WriteSetLeaderAnnotation(const QString& variable, const QString& text,
+                                                             const OdGePoint3d& point, bool isTolerance)
+{
+    QString code = Statement(
+        "%1kvMathUtility_ptr kvMathUtility;%2%1m_pKvApp->GetMathUtility(&kvMathUtility);%2%1kvMathPoint_ptr insertionPoint;%2%1kvMathUtility->CreatePoint( %3, %4, %5, &insertionPoint );%2",
+        point);
+    code += isTolerance ? Statement("%1%3->SetToleranceAnnotation( L\"%4\", insertionPoint );%2", variable, text)
+                        : Statement("%1%3->SetBlockAnnotation( L\"%4\", insertionPoint );%2", variable, text);
+    return code;
+}

@@ -12,3 +12,14 @@ QString CZtConverterKVAPIObjectCPPCOM::WriteInsertLeader(const QString& variable
                       content, variable);
     return text;
 }
+
+QString CZtConverterKVAPIObjectCPPCOM::WriteSetLeaderAnnotation(const QString& variable, const QString& text,
+                                                                const OdGePoint3d& point, bool isTolerance)
+{
+    QString code = Statement(
+        "%1IMathUtilityPtr kvMathUtility = pConnection->m_KvApp->GetMathUtility();%2%1IMathPointPtr insertionPoint = kvMathUtility->CreatePoint( %3, %4, %5 );%2",
+        point);
+    code += isTolerance ? Statement("%1%3->SetToleranceAnnotation( L\"%4\", insertionPoint );%2", variable, text)
+                        : Statement("%1%3->SetBlockAnnotation( L\"%4\", insertionPoint );%2", variable, text);
+    return code;
+}

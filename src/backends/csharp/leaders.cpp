@@ -12,3 +12,14 @@ QString CZtConverterKVAPIObjectCSharp::WriteInsertLeader(const QString& variable
     return Statement("%1%6 = kvSketchManager.InsertLeader( new double[]{%3}, %4, \"%5\" );%2",
                      kv::CoordinateList<kv::FixedPoint>(points), Fixed{width}, content, variable);
 }
+
+QString CZtConverterKVAPIObjectCSharp::WriteSetLeaderAnnotation(const QString& variable, const QString& text,
+                                                                const OdGePoint3d& point, bool isTolerance)
+{
+    QString code = Statement(
+        "%1MathUtility kvMathUtility = kvApp.GetMathUtility();%2%1MathPoint insertionPoint = kvMathUtility.CreatePoint( %3, %4, %5 );%2",
+        point);
+    code += isTolerance ? Statement("%1%3.SetToleranceAnnotation( \"%4\", insertionPoint );%2", variable, text)
+                        : Statement("%1%3.SetBlockAnnotation( \"%4\", insertionPoint );%2", variable, text);
+    return code;
+}

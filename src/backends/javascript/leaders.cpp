@@ -13,3 +13,14 @@ QString CZtConverterKVAPIObjectJavaScript::WriteInsertLeader(const QString& vari
                       variable);
     return text;
 }
+
+QString CZtConverterKVAPIObjectJavaScript::WriteSetLeaderAnnotation(const QString& variable, const QString& text,
+                                                                    const OdGePoint3d& point, bool isTolerance)
+{
+    QString code = Statement(
+        "%1var kvMathUtility = mApp.GetMathUtility();%2%1var insertionPoint = kvMathUtility.CreatePoint(%3, %4, %5);%2",
+        point);
+    code += isTolerance ? Statement("%1%3.SetToleranceAnnotation(L\"%4\", insertionPoint);%2", variable, text)
+                        : Statement("%1%3.SetBlockAnnotation(L\"%4\", insertionPoint);%2", variable, text);
+    return code;
+}

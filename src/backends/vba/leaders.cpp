@@ -12,3 +12,14 @@ QString CZtConverterKVAPIObjectVba::WriteInsertLeader(const QString& variable, c
                       JoinedLines(content), variable);
     return text;
 }
+
+QString CZtConverterKVAPIObjectVba::WriteSetLeaderAnnotation(const QString& variable, const QString& text,
+                                                             const OdGePoint3d& point, bool isTolerance)
+{
+    QString code = Statement(
+        "%1Dim kvMathUtility As Morvane.MathUtility%2%1Set kvMathUtility = kvApp.GetMathUtility()%2%1Dim insertionPoint As Morvane.MathPoint%2%1Set insertionPoint = kvMathUtility.CreatePoint( %3, %4, %5 )%2",
+        point);
+    code += isTolerance ? Statement("%1%3.SetToleranceAnnotation \"%4\", insertionPoint%2", variable, text)
+                        : Statement("%1%3.SetBlockAnnotation \"%4\", insertionPoint%2", variable, text);
+    return code;
+}

@@ -12,3 +12,14 @@ QString CZtConverterKVAPIObjectVbNet::WriteInsertLeader(const QString& variable,
                       JoinedLines(content), variable);
     return text;
 }
+
+QString CZtConverterKVAPIObjectVbNet::WriteSetLeaderAnnotation(const QString& variable, const QString& text,
+                                                               const OdGePoint3d& point, bool isTolerance)
+{
+    QString code = Statement(
+        "%1Dim kvMathUtility As Morvane.MathUtility = kvApp.GetMathUtility()%2%1Dim insertionPoint As Morvane.MathPoint = kvMathUtility.CreatePoint( %3, %4, %5 )%2",
+        point);
+    code += isTolerance ? Statement("%1%3.SetToleranceAnnotation( \"%4\", insertionPoint )%2", variable, text)
+                        : Statement("%1%3.SetBlockAnnotation( \"%4\", insertionPoint )%2", variable, text);
+    return code;
+}
