@@ -2,6 +2,7 @@
 #include "core/variable_names.h"
 #include "host/db/symbols.h"
 #include "objects/object_converter.h"
+#include "objects/variant_readers.h"
 
 bool CZtConverterKVAPIObject::GetObjectTypeName(OdDbHandle handle, const OdRxClass* objectClass, QString& typeName)
 {
@@ -38,4 +39,10 @@ QString CZtConverterKVAPIObject::GetObjectByHandle(OdDbHandle handle, const OdRx
     const std::int32_t number = ++Counters().ObjectSequence;
     variable = VariableName(typeName, number, PlainPointerMark::Removed);
     return WriteGetObjectByHandle(variable, typeName, handle.ascii(), number);
+}
+
+QString CZtConverterKVAPIObject::TakeName(const Creation& creation, const char* name, const QString& recordName)
+{
+    const CZtVariant value = creation.properties.TakeProperty(name, &creation.consumed);
+    return value.IsNull() ? recordName : TextOf(value);
 }

@@ -122,6 +122,15 @@ ResultCode CZtConverterKVAPIObject::ConvertCreation(const OdRxClass* objectClass
         {OdDbFcf::desc(), &CZtConverterKVAPIObject::CreateTolerance},
         {OdDbAttributeDefinition::desc(), &CZtConverterKVAPIObject::CreateAttributeDefinition},
         {OdDbTextStyleTableRecord::desc(), &CZtConverterKVAPIObject::CreateTextStyle},
+        {OdDbLayerTableRecord::desc(), &CZtConverterKVAPIObject::CreateLayer},
+        {OdDbLinetypeTableRecord::desc(), &CZtConverterKVAPIObject::CreateLineStyle},
+        {OdDbMlineStyle::desc(), &CZtConverterKVAPIObject::CreateRichLineStyle},
+        {OdDbBlockReference::desc(), &CZtConverterKVAPIObject::CreateBlockInstance},
+        {OdDbRasterImage::desc(), &CZtConverterKVAPIObject::CreatePicture},
+        {OdDbShape::desc(), &CZtConverterKVAPIObject::CreateShape},
+        {OdDbGroup::desc(), &CZtConverterKVAPIObject::CreateGroup},
+        {OdDbViewport::desc(), &CZtConverterKVAPIObject::CreateViewport},
+        {OdDbBlockTableRecord::desc(), &CZtConverterKVAPIObject::CreateBlockDefinition},
     };
     text.clear();
     if (Converter().FindKnownObject(handle) == nullptr)
@@ -180,6 +189,17 @@ QString CZtConverterKVAPIObject::ConvertClassProperties(const OdRxClass* objectC
         {OdDbFcf::desc(), &CZtConverterKVAPIObject::ConvertTolerance},
         {OdDbAttributeDefinition::desc(), &CZtConverterKVAPIObject::ConvertAttributeDefinition},
         {OdDbTextStyleTableRecord::desc(), &CZtConverterKVAPIObject::ConvertTextStyle},
+        {OdDbLayerTableRecord::desc(), &CZtConverterKVAPIObject::ConvertLayer},
+        {OdDbMlineStyle::desc(), &CZtConverterKVAPIObject::ConvertRichLineStyle},
+        {OdDbBlockTableRecord::desc(), &CZtConverterKVAPIObject::ConvertBlockDefinition},
+        {OdDbBlockReference::desc(), &CZtConverterKVAPIObject::ConvertBlockInstance},
+        {OdDbRasterImage::desc(), &CZtConverterKVAPIObject::ConvertReferenceImage},
+        {OdDbShape::desc(), &CZtConverterKVAPIObject::ConvertShape},
+        {OdDbOle2Frame::desc(), &CZtConverterKVAPIObject::ConvertEmbeddedObject},
+        {OdDbGroup::desc(), &CZtConverterKVAPIObject::ConvertGroup},
+        {OdDbViewport::desc(), &CZtConverterKVAPIObject::ConvertViewport},
+        {OdDbViewportTableRecord::desc(), &CZtConverterKVAPIObject::ConvertViewTile},
+        {OdDbLayout::desc(), &CZtConverterKVAPIObject::ConvertLayout},
     };
     const auto branch = branches.find(objectClass);
     return branch != branches.end() ? (this->*branch->second)(pass) : QString();
@@ -194,9 +214,14 @@ QString CZtConverterKVAPIObject::ConvertErased(const OdRxClass* objectClass, con
         return {};
     }
     // Views and layers are removed from their tables.
-    if (objectClass == OdDbViewTableRecord::desc() || objectClass == OdDbLayerTableRecord::desc())
+    if (objectClass == OdDbViewTableRecord::desc())
     {
-        return {};
+        const auto view = Opened<OdDbViewTableRecord>(pass.handle);
+        return view ? WriteRemoveNamedView(view->getName(), view->isPaperspaceView()) : QString();
+    }
+    if (objectClass == OdDbLayerTableRecord::desc())
+    {
+        return WriteRemoveLayer(pass.variable);
     }
     return WriteSetBoolProperty(pass.variable, QStringLiteral("Erased"), true);
 }
@@ -236,7 +261,7 @@ ResultCode CZtConverterKVAPIObject::ConvertProperties(const OdRxClass* objectCla
 
     const std::int32_t levelOutside = Counters().IndentLevel;
     const QString blockBegin = Converter().WriteBlockBegin();
-    const PropertyPass pass{properties, created, variable};
+    const PropertyPass pass{properties, created, variable, handle};
     bool noBlock = false;
     QString common;
     if (objectClass->isDerivedFrom(OdDbEntity::desc()))

@@ -79,6 +79,7 @@ private:
         PropertyList& properties;
         bool created; // the object was made just now, by a call that carries most of its properties
         const QString& variable;
+        OdDbHandle handle;
     };
 
     using CreationBranch = QString (CZtConverterKVAPIObject::*)(const Creation&);
@@ -115,6 +116,12 @@ private:
 
     // The insertion of an object as the drawing holds it; empty for a class that the API doesn't insert.
     [[nodiscard]] QString InsertStored(const OdDbObject& object, const QString& variable);
+    [[nodiscard]] QString InsertStoredCurve(const OdDbObject& object, const QString& variable);
+    [[nodiscard]] QString InsertStoredVertices(const OdDbObject& object, const QString& variable);
+    [[nodiscard]] QString InsertStoredText(const OdDbObject& object, const QString& variable);
+
+    // The stem of the locals that stand for objects of a class; empty for a class that the API doesn't insert.
+    [[nodiscard]] static QString StemOf(const OdRxClass* objectClass);
 
     // All three coordinates of a point, and a setting by a constant that the logic holds.
     [[nodiscard]] QString SetPoint(const QString& variable, const char* getter, const char* setter,
@@ -166,6 +173,7 @@ private:
     [[nodiscard]] QString ConvertEllipse(const PropertyPass& pass);
 
     // Polylines, splines, leaders, meshes and filled shapes.
+    [[nodiscard]] static OdArray<OdGePoint2d> Flattened(const OdArray<OdGePoint3d>& points);
     [[nodiscard]] QString CreatePolyline(const Creation& creation);
     [[nodiscard]] QString CreatePolyline3D(const Creation& creation);
     [[nodiscard]] QString CreateRichLine(const Creation& creation);
@@ -212,6 +220,49 @@ private:
     [[nodiscard]] QString ConvertTolerance(const PropertyPass& pass);
     [[nodiscard]] QString ConvertAttributeDefinition(const PropertyPass& pass);
     [[nodiscard]] QString ConvertTextStyle(const PropertyPass& pass);
+
+    // The name that a property gives, or else the record's own.
+    [[nodiscard]] static QString TakeName(const Creation& creation, const char* name, const QString& recordName);
+    template <class Record>
+    [[nodiscard]] static QString NameOf(const Creation& creation, const char* name)
+    {
+        const auto record = Opened<Record>(creation.handle);
+        return TakeName(creation, name, record ? record->getName() : OdString());
+    }
+
+    // Layers, line styles and rich line styles.
+    [[nodiscard]] QString CreateLayer(const Creation& creation);
+    [[nodiscard]] QString CreateLineStyle(const Creation& creation);
+    [[nodiscard]] QString CreateRichLineStyle(const Creation& creation);
+    [[nodiscard]] QString ConvertLayer(const PropertyPass& whole);
+    [[nodiscard]] QString ConvertLayerInViewport(PropertyList& properties, const QString& variable);
+    [[nodiscard]] QString ConvertRichLineStyle(const PropertyPass& pass);
+
+    // Blocks and their instances, pictures, shapes, embedded objects and groups.
+    [[nodiscard]] static OdArray<OdDbObjectId> ObjectsOf(const CZtVariant& list);
+    [[nodiscard]] static QString FirstText(const OdArray<OdResBufPtr>& data);
+    [[nodiscard]] static QString LastText(const OdArray<OdResBufPtr>& data);
+    [[nodiscard]] QString BlockDefinition(const QString& variable, const QString& name, const QString& description,
+                                          const OdGePoint3d& basePoint, const OdArray<OdDbObjectId>& ids);
+    [[nodiscard]] QString BlockContents(const QString& definition, const OdArray<OdDbObjectId>& ids);
+    [[nodiscard]] QString MemberName(const OdDbObjectId& id, QStringList& names);
+    [[nodiscard]] QString CreateBlockDefinition(const Creation& creation);
+    [[nodiscard]] QString CreateBlockInstance(const Creation& creation);
+    [[nodiscard]] QString CreatePicture(const Creation& creation);
+    [[nodiscard]] QString CreateShape(const Creation& creation);
+    [[nodiscard]] QString CreateGroup(const Creation& creation);
+    [[nodiscard]] QString ConvertBlockDefinition(const PropertyPass& pass);
+    [[nodiscard]] QString ConvertBlockInstance(const PropertyPass& pass);
+    [[nodiscard]] QString ConvertReferenceImage(const PropertyPass& pass);
+    [[nodiscard]] QString ConvertShape(const PropertyPass& pass);
+    [[nodiscard]] QString ConvertEmbeddedObject(const PropertyPass& pass);
+    [[nodiscard]] QString ConvertGroup(const PropertyPass& pass);
+
+    // Viewports, tiles and layouts.
+    [[nodiscard]] QString CreateViewport(const Creation& creation);
+    [[nodiscard]] QString ConvertViewport(const PropertyPass& pass);
+    [[nodiscard]] QString ConvertViewTile(const PropertyPass& pass);
+    [[nodiscard]] QString ConvertLayout(const PropertyPass& pass);
 
     CZtConverterKVAPIImpl* converter_;
     CreatedObjects createdObjects_;

@@ -2,14 +2,21 @@
 #include "objects/object_converter.h"
 #include "objects/variant_readers.h"
 
+OdArray<OdGePoint2d> CZtConverterKVAPIObject::Flattened(const OdArray<OdGePoint3d>& points)
+{
+    OdArray<OdGePoint2d> flat;
+    flat.reserve(points.size());
+    for (const OdGePoint3d& point : points)
+    {
+        flat.append({point.x, point.y});
+    }
+    return flat;
+}
+
 QString CZtConverterKVAPIObject::CreatePolyline(const Creation& creation)
 {
     const auto& [properties, consumed, handle, variable] = creation;
-    OdArray<OdGePoint2d> points;
-    for (const OdGePoint3d& point : properties.TakePoints("Vertex", &consumed))
-    {
-        points.append({point.x, point.y});
-    }
+    const OdArray<OdGePoint2d> points = Flattened(properties.TakePoints("Vertex", &consumed));
     const CZtVariant closed = properties.TakeProperty("Closed", &consumed);
     return WriteInsertPolyline2D(variable, points, IsWord(words_, closed, "Yes", Qt::CaseInsensitive));
 }

@@ -23,6 +23,20 @@
     return words.Matches(DisplayWords::Context::PropertyValues, word, TextOf(value), sensitivity);
 }
 
+// A number as the API takes it, any other value as its text.
+[[nodiscard]] inline QString NumberOrText(const CZtVariant& value)
+{
+    switch (value.GetType())
+    {
+    case CZtVariant::kInteger:
+        return QString::number(value.GetInt32());
+    case CZtVariant::kReal:
+        return QString::number(value.GetDouble(), 'g', 15);
+    default:
+        return TextOf(value);
+    }
+}
+
 // Whether a switch is on that arrives as a selection, whose first element says "Yes", or as an element with the word.
 [[nodiscard]] inline bool IsSwitchedOn(const DisplayWords& words, const CZtVariant& value)
 {

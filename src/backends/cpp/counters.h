@@ -19,6 +19,7 @@ struct CppCounters
     int WriteSetNamedViewClass = 0;
     int WriteSetNamedViewWindow = 0;
     int WriteCreateNamedView = 0;
+    int WriteRemoveNamedView = 0;
     int WriteActivateViewport = 0;
     int WriteSaveCCS = 0;
     int WriteRestoreCCS = 0;

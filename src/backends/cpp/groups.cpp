@@ -1,6 +1,7 @@
 // C++ API texts of groups and of erasing; the logic stands in core/groups.cpp.
 #include "backends/cpp/converter.h"
 #include "backends/cpp/counters.h"
+#include "backends/cpp/object.h"
 
 QString CZtConverterKVAPICPP::WriteAddEntitiesToGroup(const QStringList& names, const QString& group)
 {
@@ -60,4 +61,18 @@ QString CZtConverterKVAPICPP::WriteEraseEntity(const QStringList& names)
                      name);
     }
     return text;
+}
+
+QString CZtConverterKVAPIObjectCPP::WriteCreateGroup(const QString& variable, const QString& name, bool anonymous,
+                                                     const QString& description, const QStringList& entities)
+{
+    const std::int32_t number = NextLocalNumber();
+    QString elements;
+    for (const QString& entity : entities)
+    {
+        elements += Statement("%1entities%4.add(%3);%2", entity, number);
+    }
+    return Statement(
+        "%1kvObjectPtrArray entities%8;%2%3%1kvDoc->CreateGroup( L\"%4\", %5, L\"%6\", entities%8, &%7 );%2", elements,
+        name, FlagWord(anonymous), description, variable, number);
 }

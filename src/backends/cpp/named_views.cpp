@@ -181,3 +181,17 @@ QString CZtConverterKVAPIObjectCPP::WriteSetNamedProperty(const QString& word, c
     // The value of a sheet lacks the prefix of wide texts; the format's.
     return Statement("%3%1%4->put_%5( \"%6\" );%2", head, kv::Fill("sheetItem%1", number), word, value);
 }
+
+QString CZtConverterKVAPIObjectCPP::WriteRemoveNamedView(const QString& name, bool isSheet)
+{
+    const std::int32_t number = CppCounters::OfProcess().WriteRemoveNamedView++;
+    QString text = Line("%1bool valRemove_%2 = false;\n", number);
+    // A view of the model is named without quotes; the format's.
+    text +=
+        isSheet
+            ? Line(
+                  "%1kvSheetNamedView_ptr sheetNamedViewRemove_%3;\n%1kvViewManager->GetSheetNamedView( L\"%2\", &sheetNamedViewRemove_%3 );\n%1kvViewManager->RemoveSheetNamedView( sheetNamedViewRemove_%3, &valRemove_%3 );\n",
+                  name, number)
+            : Line("%1kvViewManager->RemoveModelNamedView( %2, &valRemove_%3 );\n", name, number);
+    return text;
+}

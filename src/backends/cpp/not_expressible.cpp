@@ -21,3 +21,26 @@ QString CZtConverterKVAPIObjectCPP::WriteObjectModifiedEnd()
 {
     return {};
 }
+
+QString CZtConverterKVAPIObjectCPP::WriteRenameEntity(const QString& /*variable*/, const QString& /*name*/)
+{
+    return {};
+}
+
+QString CZtConverterKVAPIObjectCPP::WriteSetRichLineOffset(const QString& /*variable*/, std::int32_t /*index*/,
+                                                           double /*offset*/)
+{
+    return {};
+}
+
+QString CZtConverterKVAPIObjectCPP::WriteSetRichLineColor(const QString& /*variable*/, std::int32_t /*index*/,
+                                                          std::int32_t /*color*/)
+{
+    return {};
+}
+
+QString CZtConverterKVAPIObjectCPP::WriteSetRichLineStyle(const QString& /*variable*/, std::int32_t /*index*/,
+                                                          const QString& /*style*/)
+{
+    return {};
+}

@@ -1,7 +1,10 @@
 // C++ API texts of zoom, viewports and view tiles; the logic stands in core/viewports.cpp.
 #include "backends/cpp/converter.h"
 #include "backends/cpp/counters.h"
+#include "backends/cpp/object.h"
 #include "backends/text/enumerations.h"
+
+using kv::Fixed;
 
 QString CZtConverterKVAPICPP::WriteZoom(const QString& range, bool isWindow, const OdGePoint3d& corner1,
                                         const OdGePoint3d& corner2)
@@ -59,4 +62,11 @@ QString CZtConverterKVAPICPP::WriteInsertViewTiles(const QString& layout, bool f
         text += Statement("%1%5 =(kvViewTile_c*)%3[%4];%2", array, i, tiles.at(i));
     }
     return text;
+}
+
+QString CZtConverterKVAPIObjectCPP::WriteInsertViewport(const QString& variable, const OdGePoint3d& center,
+                                                        double width, double height)
+{
+    return Statement("%1kvSheet->InsertViewport( %3, %4, %5, %6, %7, &%8 );%2", center, Fixed{width}, Fixed{height},
+                     variable);
 }

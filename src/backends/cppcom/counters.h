@@ -17,6 +17,7 @@ struct ComCounters
     int WriteSetNamedViewClass = 0;
     int WriteSetNamedViewWindow = 0;
     int WriteCreateNamedView = 0;
+    int WriteRemoveNamedView = 0;
     int WriteActivateViewport = 0;
     int WriteSaveCCS = 0;
     int WriteRestoreCCS = 0;

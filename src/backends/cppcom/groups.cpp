@@ -1,6 +1,7 @@
 // C++ COM texts of groups and of erasing; the logic stands in core/groups.cpp.
 #include "backends/cppcom/converter.h"
 #include "backends/cppcom/counters.h"
+#include "backends/cppcom/object.h"
 #include "backends/cppcom/safe_array.h"
 
 QString CZtConverterKVAPICPPCOM::WriteAddEntitiesToGroup(const QStringList& names, const QString& group)
@@ -46,5 +47,17 @@ QString CZtConverterKVAPICPPCOM::WriteEraseEntity(const QStringList& names)
     {
         text += Line("%1%2->put_Erased( true );\n", name);
     }
+    return text;
+}
+
+QString CZtConverterKVAPIObjectCPPCOM::WriteCreateGroup(const QString& variable, const QString& name, bool anonymous,
+                                                        const QString& description, const QStringList& entities)
+{
+    const std::int32_t number = NextLocalNumber();
+    const SafeArrayText array(SafeArrayText::Kind::Entities, "entities", number);
+    QString text = array.Declare(CurrentIndent(), entities.size());
+    text += array.Elements(CurrentIndent(), entities);
+    text += Statement("%1%6 = kvDoc->CreateGroup( L\"%3\", %4, L\"%5\", entities%7 );%2", name, FlagWord(anonymous),
+                      description, variable, number);
     return text;
 }

@@ -121,3 +121,17 @@ QString CZtConverterKVAPIObjectCPPCOM::WriteSetNamedProperty(const QString& word
     // The value of a sheet lacks the prefix of wide texts; the format's.
     return Statement("%3%1%4->put_%5( \"%6\" );%2", head, kv::Fill("sheetItem%1", number), word, value);
 }
+
+QString CZtConverterKVAPIObjectCPPCOM::WriteRemoveNamedView(const QString& name, bool isSheet)
+{
+    const std::int32_t number = ComCounters::OfProcess().WriteRemoveNamedView++;
+    QString text = Line("%1VARIANT_BOOL valRemove_%2 = VARIANT_FALSE;\n", number);
+    // A view of the model is named without quotes; the format's.
+    text +=
+        isSheet
+            ? Line(
+                  "%1ISheetNamedViewPtr sheetNamedViewRemove_%3 = kvViewManager->GetSheetNamedView( L\"%2\" );\n%1valRemove_%3=kvViewManager->RemoveSheetNamedView( sheetNamedViewRemove_%3 );\n",
+                  name, number)
+            : Line("%1valRemove_%3=kvViewManager->RemoveModelNamedView( %2 );\n", name, number);
+    return text;
+}

@@ -1,8 +1,11 @@
 // C++ COM texts of zoom, viewports and view tiles; the logic stands in core/viewports.cpp.
 #include "backends/cppcom/converter.h"
 #include "backends/cppcom/counters.h"
+#include "backends/cppcom/object.h"
 #include "backends/cppcom/safe_array.h"
 #include "backends/text/enumerations.h"
+
+using kv::Fixed;
 
 QString CZtConverterKVAPICPPCOM::WriteZoom(const QString& range, bool isWindow, const OdGePoint3d& corner1,
                                            const OdGePoint3d& corner2)
@@ -71,4 +74,11 @@ QString CZtConverterKVAPICPPCOM::WriteInsertViewTiles(const QString& layout, boo
         text += Statement("%1%4 = kvViewTileArrays[%3];%2", i, tiles.at(i));
     }
     return text;
+}
+
+QString CZtConverterKVAPIObjectCPPCOM::WriteInsertViewport(const QString& variable, const OdGePoint3d& center,
+                                                           double width, double height)
+{
+    return Statement("%1%8 = kvSheet->InsertViewport( %3, %4, %5, %6, %7 );%2", center, Fixed{width}, Fixed{height},
+                     variable);
 }

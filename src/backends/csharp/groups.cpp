@@ -1,6 +1,7 @@
 // C# texts of groups and of erasing; the logic stands in core/groups.cpp.
 #include "backends/csharp/converter.h"
 #include "backends/csharp/counters.h"
+#include "backends/csharp/object.h"
 
 QString CZtConverterKVAPICSharp::WriteAddEntitiesToGroup(const QStringList& names, const QString& group)
 {
@@ -40,4 +41,18 @@ QString CZtConverterKVAPICSharp::WriteEraseEntity(const QStringList& names)
         text += Line("%1%2.Erased = true;\n", name);
     }
     return text;
+}
+
+QString CZtConverterKVAPIObjectCSharp::WriteCreateGroup(const QString& variable, const QString& name, bool anonymous,
+                                                        const QString& description, const QStringList& entities)
+{
+    const std::int32_t number = NextLocalNumber();
+    QString elements;
+    for (int i = 0; i < entities.size(); ++i)
+    {
+        elements += Statement("%1entities%5[%3] = new DispatchWrapper(%4);%2", i, entities.at(i), number);
+    }
+    return Statement(
+        "%1DispatchWrapper[] entities%9 = new DispatchWrapper[%3];%2%4%1%8 = kvDoc.CreateGroup( \"%5\", %6, \"%7\", entities%9 );%2",
+        entities.size(), elements, name, FlagWord(anonymous), description, variable, number);
 }

@@ -131,3 +131,17 @@ QString CZtConverterKVAPIObjectCSharp::WriteSetNamedProperty(const QString& word
     const QString head = Statement("%1Sheet sheetItem%3 = kvDoc.GetSheet(\"%4\");%2", number, sheet);
     return Statement("%3%1%4.%5 = \"%6\";%2", head, kv::Fill("sheetItem%1", number), word, value);
 }
+
+QString CZtConverterKVAPIObjectCSharp::WriteRemoveNamedView(const QString& name, bool isSheet)
+{
+    const std::int32_t number = CSharpCounters::OfProcess().WriteRemoveNamedView++;
+    QString text;
+    // A view of the model is named without quotes; the format's.
+    text +=
+        isSheet
+            ? Line(
+                  "%1SheetNamedView sheetNamedViewRemove_%3 = kvViewManager.GetSheetNamedView( \"%2\" );\n%1kvViewManager.RemoveSheetNamedView( sheetNamedViewRemove_%3 );\n",
+                  name, number)
+            : Line("%1kvViewManager.RemoveModelNamedView( %2 );\n", name);
+    return text;
+}

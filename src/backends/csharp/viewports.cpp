@@ -1,8 +1,11 @@
 // C# texts of zoom, viewports and view tiles; the logic stands in core/viewports.cpp.
 #include "backends/csharp/converter.h"
 #include "backends/csharp/counters.h"
+#include "backends/csharp/object.h"
 #include "backends/text/coordinate_list.h"
 #include "backends/text/enumerations.h"
+
+using kv::Fixed;
 
 QString CZtConverterKVAPICSharp::WriteZoom(const QString& range, bool isWindow, const OdGePoint3d& corner1,
                                            const OdGePoint3d& corner2)
@@ -54,4 +57,11 @@ QString CZtConverterKVAPICSharp::WriteInsertViewTiles(const QString& layout, boo
         text += Statement("%1%5 =(ViewTile)%3[%4];%2", array, i, tiles.at(i));
     }
     return text;
+}
+
+QString CZtConverterKVAPIObjectCSharp::WriteInsertViewport(const QString& variable, const OdGePoint3d& center,
+                                                           double width, double height)
+{
+    return Statement("%1%8 = kvSheet.InsertViewport( %3, %4, %5, %6, %7 );%2", center, Fixed{width}, Fixed{height},
+                     variable);
 }

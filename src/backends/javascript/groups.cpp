@@ -1,6 +1,7 @@
 // JavaScript texts of groups and of erasing; the logic stands in core/groups.cpp.
 #include "backends/javascript/converter.h"
 #include "backends/javascript/counters.h"
+#include "backends/javascript/object.h"
 
 QString CZtConverterKVAPIJavaScript::WriteAddEntitiesToGroup(const QStringList& names, const QString& group)
 {
@@ -39,4 +40,19 @@ QString CZtConverterKVAPIJavaScript::WriteEraseEntity(const QStringList& names)
         text += Line("%1%2.put_Erased(true);\n", name);
     }
     return text;
+}
+
+QString CZtConverterKVAPIObjectJavaScript::WriteCreateGroup(const QString& variable, const QString& name,
+                                                            bool anonymous, const QString& description,
+                                                            const QStringList& entities)
+{
+    const std::int32_t number = NextLocalNumber();
+    QString elements;
+    for (int i = 0; i < entities.size(); ++i)
+    {
+        elements += Statement("%1entities%5[%3] = %4;%2", i, entities.at(i), number);
+    }
+    return Statement(
+        "%1var entities%9 = new Array(%3);%2%4%1var %8 = mDoc.CreateGroup(\"%5\", %6, \"%7\", entities%9);%2",
+        entities.size(), elements, name, FlagWord(anonymous), description, variable, number);
 }

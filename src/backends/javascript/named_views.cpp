@@ -119,3 +119,17 @@ QString CZtConverterKVAPIObjectJavaScript::WriteSetNamedProperty(const QString& 
     const QString head = Statement("%1var sheetItem%3 = mDoc.GetSheet(\"%4\");%2", number, sheet);
     return Statement("%3%1%4.put_%5(\"%6\");%2", head, kv::Fill("sheetItem%1", number), word, value);
 }
+
+QString CZtConverterKVAPIObjectJavaScript::WriteRemoveNamedView(const QString& name, bool isSheet)
+{
+    const std::int32_t number = JavaScriptCounters::OfProcess().WriteRemoveNamedView++;
+    QString text;
+    // A view of the model is named without quotes; the format's.
+    text +=
+        isSheet
+            ? Line(
+                  "%1var sheetNamedViewRemove_%3 = mViewManager.GetSheetNamedView(\"%2\");\n%1mViewManager.RemoveSheetNamedView(sheetNamedViewRemove_%3);\n",
+                  name, number)
+            : Line("%1mViewManager.RemoveModelNamedView(%2);\n", name);
+    return text;
+}

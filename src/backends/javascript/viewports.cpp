@@ -1,7 +1,10 @@
 // JavaScript texts of zoom, viewports and view tiles; the logic stands in core/viewports.cpp.
 #include "backends/javascript/converter.h"
 #include "backends/javascript/counters.h"
+#include "backends/javascript/object.h"
 #include "backends/text/enumerations.h"
+
+using kv::Fixed;
 
 QString CZtConverterKVAPIJavaScript::WriteZoom(const QString& range, bool isWindow, const OdGePoint3d& corner1,
                                                const OdGePoint3d& corner2)
@@ -48,4 +51,11 @@ QString CZtConverterKVAPIJavaScript::WriteInsertViewTiles(const QString& layout,
         text += Statement("%1var %5 = %3[%4];%2", array, i, tiles.at(i));
     }
     return text;
+}
+
+QString CZtConverterKVAPIObjectJavaScript::WriteInsertViewport(const QString& variable, const OdGePoint3d& center,
+                                                               double width, double height)
+{
+    return Statement("%1var %8 = mSheet.InsertViewport(%3, %4, %5, %6, %7);%2", center, Fixed{width}, Fixed{height},
+                     variable);
 }

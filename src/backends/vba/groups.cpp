@@ -1,6 +1,7 @@
 // VBA texts of groups and of erasing; the logic stands in core/groups.cpp.
 #include "backends/vba/converter.h"
 #include "backends/vba/counters.h"
+#include "backends/vba/object.h"
 
 QString CZtConverterKVAPIVba::WriteAddEntitiesToGroup(const QStringList& names, const QString& group)
 {
@@ -38,5 +39,16 @@ QString CZtConverterKVAPIVba::WriteEraseEntity(const QStringList& names)
     {
         text += Line("%1%2.Erased = True\n", name);
     }
+    return text;
+}
+
+QString CZtConverterKVAPIObjectVba::WriteCreateGroup(const QString& variable, const QString& name, bool anonymous,
+                                                     const QString& description, const QStringList& entities)
+{
+    const std::int32_t number = NextLocalNumber();
+    QString text = DeclareEntities("entities", number, entities.size());
+    text += EntityElements("entities", number, entities);
+    text += Statement("%1Set %6 = kvDoc.CreateGroup( \"%3\", %4, \"%5\", entities%7 )%2", name, FlagWord(anonymous),
+                      description, variable, number);
     return text;
 }

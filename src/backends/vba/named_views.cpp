@@ -134,3 +134,17 @@ QString CZtConverterKVAPIObjectVba::WriteSetNamedProperty(const QString& word, c
                                    number, sheet);
     return Statement("%3%1%4.%5 = \"%6\"%2", head, kv::Fill("sheetItem%1", number), word, value);
 }
+
+QString CZtConverterKVAPIObjectVba::WriteRemoveNamedView(const QString& name, bool isSheet)
+{
+    const std::int32_t number = VbaCounters::OfProcess().WriteRemoveNamedView++;
+    QString text;
+    // A view of the model is named without quotes; the format's.
+    text +=
+        isSheet
+            ? Line(
+                  "%1Dim sheetNamedViewRemove_%3 As Morvane.SheetNamedView\n%1Set sheetNamedViewRemove_%3 = kvViewManager.GetSheetNamedView( \"%2\" )\n%1kvViewManager.RemoveSheetNamedView sheetNamedViewRemove_%3\n",
+                  name, number)
+            : Line("%1kvViewManager.RemoveModelNamedView %2\n", name);
+    return text;
+}

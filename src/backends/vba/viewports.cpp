@@ -2,6 +2,9 @@
 #include "backends/text/enumerations.h"
 #include "backends/vba/converter.h"
 #include "backends/vba/counters.h"
+#include "backends/vba/object.h"
+
+using kv::Fixed;
 
 QString CZtConverterKVAPIVba::WriteZoom(const QString& range, bool isWindow, const OdGePoint3d& corner1,
                                         const OdGePoint3d& corner2)
@@ -54,4 +57,11 @@ QString CZtConverterKVAPIVba::WriteInsertViewTiles(const QString& layout, bool f
         text += Statement("%1Set %5 = %3(%4)%2", array, i, tiles.at(i));
     }
     return text;
+}
+
+QString CZtConverterKVAPIObjectVba::WriteInsertViewport(const QString& variable, const OdGePoint3d& center,
+                                                        double width, double height)
+{
+    return Statement("%1Set %8 = kvSheet.InsertViewport( %3, %4, %5, %6, %7 )%2", center, Fixed{width}, Fixed{height},
+                     variable);
 }

@@ -16,6 +16,7 @@ struct VbNetCounters
     int WriteSetNamedViewClass = 0;
     int WriteSetNamedViewWindow = 0;
     int WriteCreateNamedView = 0;
+    int WriteRemoveNamedView = 0;
     int WriteSaveCCS = 0;
     int WriteRestoreCCS = 0;
     int WriteRemoveCCS = 0;

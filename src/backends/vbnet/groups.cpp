@@ -1,6 +1,7 @@
 // VB.NET texts of groups and of erasing; the logic stands in core/groups.cpp.
 #include "backends/vbnet/converter.h"
 #include "backends/vbnet/counters.h"
+#include "backends/vbnet/object.h"
 
 QString CZtConverterKVAPIVbNet::WriteAddEntitiesToGroup(const QStringList& names, const QString& group)
 {
@@ -37,5 +38,16 @@ QString CZtConverterKVAPIVbNet::WriteEraseEntity(const QStringList& names)
     {
         text += Line("%1%2.Erased = true\n", name);
     }
+    return text;
+}
+
+QString CZtConverterKVAPIObjectVbNet::WriteCreateGroup(const QString& variable, const QString& name, bool anonymous,
+                                                       const QString& description, const QStringList& entities)
+{
+    const std::int32_t number = NextLocalNumber();
+    QString text = DeclareEntities("entities", number, entities.size());
+    text += EntityElements("entities", number, entities);
+    text += Statement("%1%6 = kvDoc.CreateGroup( \"%3\", %4, \"%5\", entities%7 )%2", name, FlagWord(anonymous),
+                      description, variable, number);
     return text;
 }

@@ -2,6 +2,9 @@
 #include "backends/text/enumerations.h"
 #include "backends/vbnet/converter.h"
 #include "backends/vbnet/counters.h"
+#include "backends/vbnet/object.h"
+
+using kv::Fixed;
 
 QString CZtConverterKVAPIVbNet::WriteZoom(const QString& range, bool isWindow, const OdGePoint3d& corner1,
                                           const OdGePoint3d& corner2)
@@ -53,4 +56,11 @@ QString CZtConverterKVAPIVbNet::WriteInsertViewTiles(const QString& layout, bool
         text += Statement("%1%5 = %3(%4)%2", array, i, tiles.at(i));
     }
     return text;
+}
+
+QString CZtConverterKVAPIObjectVbNet::WriteInsertViewport(const QString& variable, const OdGePoint3d& center,
+                                                          double width, double height)
+{
+    return Statement("%1%8 = kvSheet.InsertViewport( %3, %4, %5, %6, %7 )%2", center, Fixed{width}, Fixed{height},
+                     variable);
 }

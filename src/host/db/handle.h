@@ -12,6 +12,9 @@ public:
     constexpr OdDbHandle() = default;
     constexpr explicit OdDbHandle(std::uint64_t value) : value_(value) {}
 
+    // Reads hexadecimal text; any other text gives the null handle.
+    explicit OdDbHandle(const QString& text) : value_(text.toULongLong(nullptr, 16)) {}
+
     // The number; 0 for the null handle.
     [[nodiscard]] constexpr std::uint64_t value() const { return value_; }
     [[nodiscard]] constexpr bool isNull() const { return value_ == 0; }

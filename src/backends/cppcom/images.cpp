@@ -1,0 +1,18 @@
+// C++ COM texts of pictures and shapes; the logic stands in objects/images.cpp.
+#include "backends/cppcom/object.h"
+
+using kv::Fixed;
+
+QString CZtConverterKVAPIObjectCPPCOM::WriteInsertPicture(const QString& variable, const QString& path,
+                                                          const OdGePoint3d& position, double scale, double rotation)
+{
+    return Statement("%1%9 = kvSketchManager->InsertPicture( L\"%3\", %4, %5, %6, %7, %8 );%2", path, position,
+                     Fixed{scale}, Fixed{rotation}, variable);
+}
+
+QString CZtConverterKVAPIObjectCPPCOM::WriteInsertShape(const QString& variable, const QString& name,
+                                                        const OdGePoint3d& position, double size, double rotation)
+{
+    return Statement("%1%9 = kvSketchManager->InsertShape( L\"%3\", %4, %5, %6, %7, %8 );%2", name, position,
+                     Fixed{size}, Fixed{rotation}, variable);
+}

@@ -1,0 +1,18 @@
+// VBA texts of pictures and shapes; the logic stands in objects/images.cpp.
+#include "backends/vba/object.h"
+
+using kv::Fixed;
+
+QString CZtConverterKVAPIObjectVba::WriteInsertPicture(const QString& variable, const QString& path,
+                                                       const OdGePoint3d& position, double scale, double rotation)
+{
+    return Statement("%1Set %9 = kvSketchManager.InsertPicture( \"%3\", %4, %5, %6, %7, %8 )%2", path, position,
+                     Fixed{scale}, Fixed{rotation}, variable);
+}
+
+QString CZtConverterKVAPIObjectVba::WriteInsertShape(const QString& variable, const QString& name,
+                                                     const OdGePoint3d& position, double size, double rotation)
+{
+    return Statement("%1Set %9 = kvSketchManager.InsertShape( \"%3\", %4, %5, %6, %7, %8 )%2", name, position,
+                     Fixed{size}, Fixed{rotation}, variable);
+}

@@ -1,0 +1,38 @@
+// VB.NET texts of line styles and rich line styles; the logic stands in objects/line_styles.cpp.
+#include "backends/vbnet/object.h"
+
+using kv::Fixed;
+
+QString CZtConverterKVAPIObjectVbNet::WriteLoadLineStyle(const QString& variable, const QString& name,
+                                                         const QString& file)
+{
+    const std::int32_t number = NextLocalNumber();
+    return Statement(
+        "%1Dim result%3 As Morvane.kvCreateObjectResult_e%2%1Dim LineStyleManager%3 As Morvane.LineStyleManager = kvDoc.GetLineStyleManager()%2%1%6 = LineStyleManager%3.LoadLineStyle( \"%4\",\"%5\" , result%3)%2",
+        number, name, file, variable);
+}
+
+QString CZtConverterKVAPIObjectVbNet::WriteCreateRichLineStyle(const QString& variable, const QString& name)
+{
+    const std::int32_t number = NextLocalNumber();
+    return Statement(
+        "%1Dim result%3 As Morvane.kvCreateObjectResult_e%2%1Dim richLineStyleName%4 As String = \"%5\"%2%1%6 = kvDoc.GetRichLineStyleManager().CreateRichLineStyle( richLineStyleName%4, result%3 )%2",
+        number, number, name, variable);
+}
+
+QString CZtConverterKVAPIObjectVbNet::WriteSetRichLineOffset(const QString& variable, std::int32_t index, double offset)
+{
+    return Statement("%1%3.SetLineOffset(%4, %5)%2", variable, index, Fixed{offset});
+}
+
+QString CZtConverterKVAPIObjectVbNet::WriteSetRichLineColor(const QString& variable, std::int32_t index,
+                                                            std::int32_t color)
+{
+    return Statement("%1%3.SetLineColor(%4, kvApp.GetColorByIndex( %5 ) )%2", variable, index, color);
+}
+
+QString CZtConverterKVAPIObjectVbNet::WriteSetRichLineStyle(const QString& variable, std::int32_t index,
+                                                            const QString& style)
+{
+    return Statement("%1%3.SetLineStyle(%4, \"%5\")%2", variable, index, style);
+}
