@@ -1,6 +1,7 @@
 // Hatches by the entities of their boundary.
 #include "core/logic_counters.h"
 #include "core/macro_language.h"
+#include "host/db/blocks.h"
 #include "host/db/polylines.h"
 #include "objects/object_converter.h"
 
@@ -15,6 +16,14 @@ QString BoundaryStem(const OdRxClass* objectClass)
         {OdDbArc::desc(), "hatchArc_"},
         {OdDbEllipse::desc(), "hatcEllipse_"},
         {OdDbLine::desc(), "hatchLine_"},
+        {OdDbBlockReference::desc(), "hatchBlkRef_"},
+        {OdDbPolygonMesh::desc(), "hatchPolygonMesh_"},
+        {OdDbPolyFaceMesh::desc(), "hatchPolyFaceMesh_"},
+        {OdDbSolid::desc(), "hatchSolid_"},
+        {OdDb3dPolyline::desc(), "hatchPolyLine3D_"},
+        {OdDbPolyline::desc(), "hatchPolyline_"},
+        {OdDbFace::desc(), "hatchFace_"},
+        {OdDbMline::desc(), "hatchRichLine_"},
     };
     const auto found = stems.find(objectClass);
     return found != stems.end() ? QString(QLatin1String(found->second)) : QString();

@@ -194,6 +194,7 @@ QString CZtConverterKVAPIObject::ConvertClassProperties(const OdRxClass* objectC
         {OdDbBlockTableRecord::desc(), &CZtConverterKVAPIObject::ConvertBlockDefinition},
         {OdDbBlockReference::desc(), &CZtConverterKVAPIObject::ConvertBlockInstance},
         {OdDbRasterImage::desc(), &CZtConverterKVAPIObject::ConvertReferenceImage},
+        {OdDbHatch::desc(), &CZtConverterKVAPIObject::ConvertHatch},
         {OdDbShape::desc(), &CZtConverterKVAPIObject::ConvertShape},
         {OdDbOle2Frame::desc(), &CZtConverterKVAPIObject::ConvertEmbeddedObject},
         {OdDbGroup::desc(), &CZtConverterKVAPIObject::ConvertGroup},

@@ -12,6 +12,7 @@
 #include "objects/axis.h"
 #include "objects/created_objects.h"
 #include "objects/display_words.h"
+#include "objects/hatch_data.h"
 #include "objects/hyperlink.h"
 #include "objects/property_list.h"
 
@@ -257,6 +258,10 @@ private:
     [[nodiscard]] QString ConvertShape(const PropertyPass& pass);
     [[nodiscard]] QString ConvertEmbeddedObject(const PropertyPass& pass);
     [[nodiscard]] QString ConvertGroup(const PropertyPass& pass);
+
+    // Hatches.
+    [[nodiscard]] QString ConvertHatch(const PropertyPass& pass);
+    [[nodiscard]] QString ConvertRegionAndOrigin(PropertyList& properties, const QString& pattern);
 
     // Viewports, tiles and layouts.
     [[nodiscard]] QString CreateViewport(const Creation& creation);

@@ -31,6 +31,9 @@ private:
     [[nodiscard]] QString IntegerLines(const char* list, std::int32_t number,
                                        const OdArray<std::int32_t>& values) const;
 
+    // A color of a gradient; the line isn't ended.
+    [[nodiscard]] QString GradientColor(const OdCmColor& color, const char* local) const;
+
     // Pieces of the backgrounds of views.
     [[nodiscard]] QString BackgroundHead(std::int32_t number, const QString& variable);
     [[nodiscard]] QString BackgroundColor(std::int32_t number, int index, const OdCmColor& color);

@@ -1,0 +1,94 @@
+// C# texts of what a hatch is filled with; the logic stands in objects/hatch_properties.cpp.
+#include "backends/csharp/object.h"
+#include "backends/text/color_expression.h"
+#include "backends/text/enumerations.h"
+
+using kv::Fixed;
+
+QString CZtConverterKVAPIObjectCSharp::WriteGetHatchPattern(const QString& pattern, const QString& hatch)
+{
+    return Statement("%1HatchPattern %3 = %4.GetHatchPattern();%2", pattern, hatch);
+}
+
+QString CZtConverterKVAPIObjectCSharp::WriteSetHatchData(const QString& pattern, const HatchData& data)
+{
+    const std::int32_t number = NextLocalNumber();
+    const QString name = kv::Fill("PatternName%1", number);
+    const QString angle = kv::Fill("Angle%1", number);
+    const QString scale = kv::Fill("Scale%1", number);
+    const QString type = kv::Fill("HatchPatternType%1", number);
+    const QString spacing = kv::Fill("Spacing%1", number);
+    QString text = Statement("%1string %3;%2%1double %4;%2%1double %5;%2%1kvHatchPatternType_e %6;%2%1double %7;%2%2",
+                             name, angle, scale, type, spacing);
+    text += Statement("%1%3.GetHatchOrSolidData( out %4, out %5, out %6, out %7, out %8 );%2", pattern, name, angle,
+                      scale, type, spacing);
+    if (data.name)
+    {
+        text += Statement("%1%3 = \"%4\";%2", name, *data.name);
+    }
+    if (data.angle)
+    {
+        text += Statement("%1%3 = %4;%2", angle, Fixed{*data.angle});
+    }
+    if (data.scale)
+    {
+        text += Statement("%1%3 = %4;%2", scale, Fixed{*data.scale});
+    }
+    if (!data.type.isEmpty())
+    {
+        text += Statement("%1%3 = %4;%2", type, kv::FormOfConstant(kv::EnumForm::Qualified, data.type));
+    }
+    if (data.spacing)
+    {
+        text += Statement("%1%3 = %4;%2", spacing, Fixed{*data.spacing});
+    }
+    text += Statement("%1%3.SetHatchOrSolidData( %4, %5, %6, %7, %8 );%2", pattern, name, angle, scale, type, spacing);
+    return text;
+}
+
+QString CZtConverterKVAPIObjectCSharp::WriteSetGradientData(const QString& pattern, const GradientData& data)
+{
+    QString text = Statement(
+        "%2%1Color color1;%2%1Color color2;%2%1bool bCentered;%2%1double gradientAngle;%2%2%1%3.GetGradientData( out color1, out color2, out bCentered, out gradientAngle);%2",
+        pattern);
+    if (data.color1)
+    {
+        text += Line("%1color1 = %2;", kv::ColorExpression(*data.color1));
+    }
+    if (data.color2)
+    {
+        text += Line("%1color2 = %2;", kv::ColorExpression(*data.color2));
+    }
+    if (data.angle)
+    {
+        text += Line("%1gradientAngle = %3;", Fixed{*data.angle});
+    }
+    if (data.centered)
+    {
+        text += Line("%1bCentered = %3;", FlagWord(*data.centered));
+    }
+    text += Statement("%2%1%3.SetGradientData(color1, color2, bCentered, gradientAngle);%2", pattern);
+    return text;
+}
+
+QString CZtConverterKVAPIObjectCSharp::WriteSetHatchRegionDetection(const QString& pattern, const QString& constant)
+{
+    return Statement("%2%1%3.InternalRegionDetection = %4;%2", pattern,
+                     kv::FormOfConstant(kv::EnumForm::Qualified, constant));
+}
+
+QString CZtConverterKVAPIObjectCSharp::WriteSetFirstCoordinate(const QString& variable, const QString& word,
+                                                               double value)
+{
+    const std::int32_t number = NextLocalNumber();
+    return Statement("%1double x%6, y%6;%2%1%3.Get%4( out x%6, out y%6 );%2%1%3.Set%4( %5, y%6 );%2", variable, word,
+                     Fixed{value}, number);
+}
+
+QString CZtConverterKVAPIObjectCSharp::WriteSetSecondCoordinate(const QString& variable, const QString& word,
+                                                                double value)
+{
+    const std::int32_t number = NextLocalNumber();
+    return Statement("%1double x%6, y%6;%2%1%3.Get%4( out x%6, out y%6 );%2%1%3.Set%4( x%6, %5 );%2", variable, word,
+                     Fixed{value}, number);
+}
