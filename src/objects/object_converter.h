@@ -78,7 +78,7 @@ private:
     struct PropertyPass
     {
         PropertyList& properties;
-        bool created; // the object was made just now, by a call that carries most of its properties
+        bool created = false; // the object was made just now, by a call that carries most of its properties
         const QString& variable;
         OdDbHandle handle;
     };
