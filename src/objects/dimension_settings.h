@@ -15,8 +15,8 @@ enum class DimensionRoot
 // those of the general dimension itself.
 struct DimensionOptions
 {
-    const char* typeName;
-    const char* stem;
+    const char* typeName = nullptr;
+    const char* stem = nullptr;
 };
 
 // How the value of a property becomes the value of a setting.
@@ -38,8 +38,8 @@ enum class DimensionForm
 // One property: its name in the journal, the API's word, and how the value is written.
 struct DimensionSetting
 {
-    const char* label;
-    const char* word;
-    DimensionForm form;
+    const char* label = nullptr;
+    const char* word = nullptr;
+    DimensionForm form = DimensionForm::Number;
     kv::EnumKind kind = kv::EnumKind::LineWeight;
 };

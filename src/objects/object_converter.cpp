@@ -245,7 +245,7 @@ QString CZtConverterKVAPIObject::ConvertErased(const OdRxClass* objectClass, con
     }
     // A dimension is erased as the general one that it is.
     QString variable = pass.variable;
-    const QString head = IsDimensionClass(objectClass) ? OpenGeneralDimension(pass.variable, variable) : QString();
+    QString head = IsDimensionClass(objectClass) ? OpenGeneralDimension(pass.variable, variable) : QString();
     // An object that comes back is not replayed.
     if (!IsWord(words_, erased, "YES", Qt::CaseInsensitive))
     {

@@ -3,6 +3,8 @@ import re
 
 INSERTIONS = {"InsertLine": "Line", "InsertCircle": "Circle", "InsertPoint": "Point", "InsertRay": "Ray",
               "InsertArc": "CircleArc", "InsertInfiniteLine": "InfiniteLine",
+              "InsertPolyline2D": "PolyLine", "InsertPolyline3D": "PolyLine3D", "InsertSpline": "Spline",
+              "InsertSimpleNote": "SimpleNote", "InsertNote": "Note", "InsertBlock2": "BlockInstance",
               "InsertEllipseDistanceToOtherAxis": "Ellipse", "InsertEllipseArcDistanceToOtherAxis": "EllipseArc"}
 
 
@@ -52,7 +54,10 @@ class Teller:
     def insert(self, kind, arguments):
         number = arguments[-1]["out"]
         self.numbers[number] = len(self.numbers) + 1
-        self.steps.append(["insert", kind, arguments[:-1]])
+        # Texts stand in macros as they are, whatever they hold: only numbers are compared.
+        numbers = [a for a in arguments[:-1] if not isinstance(a, str) and not (isinstance(a, list) and a and
+                                                                                 isinstance(a[0], str))]
+        self.steps.append(["insert", kind, numbers])
 
     def change(self, target, member, arguments):
         number = self.numbers[target]
