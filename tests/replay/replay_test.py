@@ -28,7 +28,7 @@ from javascript_macros import JavaScript  # noqa: E402
 from language import Refused  # noqa: E402
 
 EXAMPLES = [SOURCE / "examples" / name for name in ("bracket.jsonl", "curves.jsonl")]
-DRAWINGS = sorted((SOURCE / "examples" / "drawings").glob("*.jsonl"))
+DRAWINGS = [SOURCE / "examples" / "dimensions.jsonl", *sorted((SOURCE / "examples" / "drawings").glob("*.jsonl"))]
 
 
 def refused_texts(language):
@@ -191,7 +191,7 @@ class ReplayTest(unittest.TestCase):
             self.assert_same_story(journal)
 
     def test_drawings_draw_each_object_once_on_its_layer(self):
-        self.assertEqual(len(DRAWINGS), 5)
+        self.assertEqual(len(DRAWINGS), 6)
         self.tell(DRAWINGS)
         for language in LANGUAGES:
             for journal in DRAWINGS:

@@ -85,7 +85,7 @@ QString CZtConverterKVAPIObjectCSharp::WriteSetExtensionLineFixedLength(const QS
 QString CZtConverterKVAPIObjectCSharp::WriteSetEnumPair(const QString& variable, const QString& word,
                                                         const QString& constant, double number)
 {
-    return Statement("%1%3.put_%4(%5, %6);%2", variable, word, constant, Fixed{number});
+    return Statement("%1%3.%4(%5, %6);%2", variable, word, constant, Fixed{number});
 }
 
 QString CZtConverterKVAPIObjectCSharp::WriteCreateDimensionStyle(const QString& variable, const QString& name)

@@ -86,7 +86,7 @@ QString CZtConverterKVAPIObjectVba::WriteSetExtensionLineFixedLength(const QStri
 QString CZtConverterKVAPIObjectVba::WriteSetEnumPair(const QString& variable, const QString& word,
                                                      const QString& constant, double number)
 {
-    return Statement("%1%3.put_%4 %5, %6%2", variable, word, constant, Fixed{number});
+    return Statement("%1%3.%4 %5, %6%2", variable, word, constant, Fixed{number});
 }
 
 QString CZtConverterKVAPIObjectVba::WriteCreateDimensionStyle(const QString& variable, const QString& name)

@@ -84,7 +84,7 @@ QString CZtConverterKVAPIObjectVbNet::WriteSetExtensionLineFixedLength(const QSt
 QString CZtConverterKVAPIObjectVbNet::WriteSetEnumPair(const QString& variable, const QString& word,
                                                        const QString& constant, double number)
 {
-    return Statement("%1%3.put_%4(%5, %6)%2", variable, word, constant, Fixed{number});
+    return Statement("%1%3.%4(%5, %6)%2", variable, word, constant, Fixed{number});
 }
 
 QString CZtConverterKVAPIObjectVbNet::WriteCreateDimensionStyle(const QString& variable, const QString& name)
