@@ -67,8 +67,11 @@ QString CZtConverterKVAPIObject::CreateBlockDefinition(const Creation& creation)
     }
     if (const CZtVariant unit = properties.TakeProperty("BlockUnit", &consumed); !unit.IsNull())
     {
+        // The units come as a number or as the user's word for it.
+        bool isNumber = false;
+        const int number = TextOf(unit).toInt(&isNumber);
         text += WriteSetEnumProperty(variable, kv::EnumKind::BlockInsertUnits, QStringLiteral("BlockInsertUnits"),
-                                     TextOf(unit));
+                                     isNumber ? CZtUtils::GetStringForUnitScalingFactor(number).text() : TextOf(unit));
     }
     if (CZtDocument* document = ACTIVE_DOCUMENT())
     {
