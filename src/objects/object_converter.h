@@ -11,6 +11,7 @@
 #include "objects/attribute_flags.h"
 #include "objects/axis.h"
 #include "objects/created_objects.h"
+#include "objects/custom_data.h"
 #include "objects/dimension_settings.h"
 #include "objects/display_words.h"
 #include "objects/hatch_data.h"
@@ -249,6 +250,7 @@ private:
     [[nodiscard]] static OdArray<OdDbObjectId> ObjectsOf(const CZtVariant& list);
     [[nodiscard]] static QString FirstText(const OdArray<OdResBufPtr>& data);
     [[nodiscard]] static QString LastText(const OdArray<OdResBufPtr>& data);
+    [[nodiscard]] static CustomData CustomDataOf(const OdArray<OdResBufPtr>& data);
     [[nodiscard]] QString BlockDefinition(const QString& variable, const QString& name, const QString& description,
                                           const OdGePoint3d& basePoint, const OdArray<OdDbObjectId>& ids);
     [[nodiscard]] QString BlockContents(const QString& definition, const OdArray<OdDbObjectId>& ids);
