@@ -26,8 +26,8 @@ enum BlockAction : std::int32_t
 // Classes whose variable is filled by a custom action of the same command.
 bool IsFilledByAction(const OdRxClass* objectClass)
 {
-    const std::array classes = {OdDbOle2Frame::desc(),       OdDbPolyline::desc(), OdDbHatch::desc(),
-                                OdDbViewTableRecord::desc(), OdDbRegion::desc(),   OdDbRasterImage::desc()};
+    static const std::array classes = {OdDbOle2Frame::desc(),       OdDbPolyline::desc(), OdDbHatch::desc(),
+                                       OdDbViewTableRecord::desc(), OdDbRegion::desc(),   OdDbRasterImage::desc()};
     return std::ranges::find(classes, objectClass) != classes.end();
 }
 

@@ -88,7 +88,7 @@ ResultCode CZtConverterKVAPIObject::ConvertPropertyChanged(CZtPropertyChanged& e
 
 bool CZtConverterKVAPIObject::IsDimensionClass(const OdRxClass* objectClass)
 {
-    const std::array classes = {
+    static const std::array classes = {
         OdDbAlignedDimension::desc(), OdDb2LineAngularDimension::desc(), OdDb3PointAngularDimension::desc(),
         OdDbArcDimension::desc(),     OdDbDiametricDimension::desc(),    OdDbOrdinateDimension::desc(),
         OdDbRadialDimension::desc(),  OdDbRadialDimensionLarge::desc(),  OdDbRotatedDimension::desc()};
