@@ -24,6 +24,33 @@ public:
     void setValue(const ObjectKey& key, ObjectValue value) { values_.set(key, std::move(value)); }
     [[nodiscard]] const ObjectValues& values() const { return values_; }
 
+    // Gives a database-wide value another one; those that were changed so, each once.
+    void changeValue(std::string_view name, ObjectValue value);
+    [[nodiscard]] const std::vector<const ObjectKey*>& changedValues() const { return changedValues_; }
+
+    // The line of the journal from which the object came; 0 when it came from none.
+    void setLineOf(OdDbHandle handle, std::int64_t line) { entries_[handle].line = line; }
+    [[nodiscard]] std::int64_t lineOf(OdDbHandle handle) const;
+
+    // The objects that an object line gives or will give when the drawing is saved, in their order.
+    [[nodiscard]] const std::vector<OdDbHandle>& described() const { return described_; }
+
+    // Every object of the drawing, described or not, in the order of the handles.
+    [[nodiscard]] std::vector<OdDbHandle> handles() const;
+
+    // The values of an object; null when the drawing has none with the handle.
+    [[nodiscard]] const ObjectValues* valuesOf(OdDbHandle handle);
+
+    // The values of an object for changing, null as above. The object counts as described and changed from now on.
+    [[nodiscard]] ObjectValues* change(OdDbHandle handle);
+    [[nodiscard]] bool isChanged(OdDbHandle handle) const;
+
+    // A new object, described and changed, whose handle follows those that the journal uses.
+    [[nodiscard]] OdDbObjectId append(const OdRxClass* objectClass, ObjectValues values);
+
+    // An object that every drawing has and that is not saved.
+    [[nodiscard]] OdDbObjectId appendUnsaved(const OdRxClass* objectClass, ObjectValues values);
+
     // Makes the current layout when no object line gives it. To be called once, when all objects are known.
     void complete();
 
@@ -60,13 +87,18 @@ private:
         const OdRxClass* objectClass = nullptr;
         OdDbObjectPtr object; // made when it is opened first if there is no object line
         bool described = false;
+        bool changed = false;
+        std::int64_t line = 0;
     };
 
-    void makeCurrentLayout(const QString& name);
+    // Handles of objects that aren't saved come from here on; recorded ones are low.
+    [[nodiscard]] OdDbHandle freeHighHandle() const;
 
     std::unordered_map<OdDbHandle, Entry> entries_;
     std::vector<OdDbHandle> described_; // in the order of the file
     ObjectValues values_;
+    std::vector<const ObjectKey*> changedValues_;
     OdDbHandle currentLayout_;
+    OdDbHandle lastAppended_;
 };
 } // namespace kv
