@@ -129,7 +129,7 @@ ResultCode Console::GetEntities(CZtSelectionSet& selection)
         {
             found = byHandles(answer);
         }
-        else if (answer == "_ALL")
+        else if (answer == CZtString("_ALL"))
         {
             found = visibleEntities();
         }
@@ -149,13 +149,13 @@ ResultCode Console::askWindow(std::vector<OdDbObjectId>& found)
 {
     OdGePoint3d first;
     OdGePoint3d opposite;
-    ResultCode asked = askPoint(QStringLiteral("Specify first corner: "), {}, first);
-    if (asked == ResultNormal)
+    if (askPoint(QStringLiteral("Specify first corner: "), {}, first) == ResultCancelled ||
+        askPoint(QStringLiteral("Specify opposite corner: "), first, opposite) == ResultCancelled)
     {
-        asked = askPoint(QStringLiteral("Specify opposite corner: "), first, opposite);
+        return ResultCancelled;
     }
     const Extents window = Extents::between(first, opposite);
-    for (const OdDbObjectId& id : asked == ResultNormal ? visibleEntities() : found)
+    for (const OdDbObjectId& id : visibleEntities())
     {
         const OdDbHandle handle = id.getHandle();
         const auto extents = ExtentsOf(drawing_.classOf(handle), *drawing_.valuesOf(handle));
@@ -164,7 +164,7 @@ ResultCode Console::askWindow(std::vector<OdDbObjectId>& found)
             found.push_back(id);
         }
     }
-    return asked;
+    return ResultNormal;
 }
 
 std::vector<OdDbObjectId> Console::byHandles(const QString& answer)
