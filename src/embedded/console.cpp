@@ -67,7 +67,7 @@ ResultCode Console::GetKeyword(const CZtPrompt& prompt, CZtString& keyword)
                             Print("Invalid option keyword.");
                             return false;
                         }
-                        keyword = named != nullptr ? named->global : prompt.defaultKeyword;
+                        keyword = named != nullptr ? GlobalName(*named) : prompt.defaultKeyword.text();
                         return true;
                     });
 }
@@ -80,7 +80,7 @@ ResultCode Console::GetString(const CZtPrompt& prompt, CZtString& answer)
         return ResultCancelled;
     }
     const CZtKeyword* named = FindKeyword(prompt.keywords, typed->trimmed());
-    answer = named != nullptr ? named->global : CZtString(*typed);
+    answer = named != nullptr ? GlobalName(*named) : *typed;
     return named != nullptr ? ResultKeyword : ResultNormal;
 }
 

@@ -79,4 +79,9 @@ const CZtKeyword* FindKeyword(const CZtKeywordArray& keywords, const QString& an
     }
     return nullptr;
 }
+
+QString GlobalName(const CZtKeyword& keyword)
+{
+    return Form(keyword.global).shown;
+}
 } // namespace kv

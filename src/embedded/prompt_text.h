@@ -14,4 +14,7 @@ namespace kv
 // The keyword that the answer names, null when it names none: by its shown form or the text behind its comma, by its
 // shortcut or any longer beginning, or by the same of the global form behind an underscore. Case doesn't count.
 [[nodiscard]] const CZtKeyword* FindKeyword(const CZtKeywordArray& keywords, const QString& answer);
+
+// What a command is told when the user names the keyword: its global form up to a comma.
+[[nodiscard]] QString GlobalName(const CZtKeyword& keyword);
 } // namespace kv

@@ -12,7 +12,8 @@
 #include <vector>
 
 // A keyword in the user's language and its global form. The upper-case letters of the local form are its shortcut;
-// behind a comma stands what is typed where that isn't the text that is shown, as in "? to list,?".
+// behind a comma stands what is typed where that isn't the text that is shown, as in "? to list,?". Prompts answer with
+// the global form up to its comma.
 struct CZtKeyword
 {
     CZtString local;
