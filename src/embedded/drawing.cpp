@@ -38,8 +38,41 @@ void Drawing::addDefaultObject(OdDbHandle handle, const OdRxClass* objectClass)
     }
 }
 
+void Drawing::keepChanges()
+{
+    former_.clear();
+    formerValues_.reset();
+    appended_.clear();
+}
+
+void Drawing::takeBackChanges()
+{
+    for (auto& [handle, former] : former_)
+    {
+        Entry& entry = entries_.at(handle);
+        StoredValuesOf(*entry.object) = std::move(former.values);
+        entry.described = former.described;
+        entry.changed = former.changed;
+    }
+    if (formerValues_)
+    {
+        values_ = std::move(formerValues_->values);
+        changedValues_ = std::move(formerValues_->changed);
+    }
+    for (const OdDbHandle handle : appended_)
+    {
+        entries_.erase(handle);
+    }
+    std::erase_if(described_, [this](OdDbHandle handle) { return !describedObject(handle); });
+    keepChanges();
+}
+
 void Drawing::changeValue(std::string_view name, ObjectValue value)
 {
+    if (!formerValues_)
+    {
+        formerValues_ = FormerValues{values_, changedValues_};
+    }
     const ObjectKey* key = FindKey(KeysOfDrawing(), name);
     values_.set(*key, std::move(value));
     if (std::find(changedValues_.begin(), changedValues_.end(), key) == changedValues_.end())
@@ -105,6 +138,7 @@ OdDbObjectId Drawing::append(const OdRxClass* objectClass, ObjectValues values)
     lastAppended_ = OdDbHandle(last);
     static_cast<void>(addObject(lastAppended_, objectClass, std::move(values)));
     entries_[lastAppended_].changed = true;
+    appended_.push_back(lastAppended_);
     return {this, lastAppended_};
 }
 
@@ -146,6 +180,7 @@ ObjectValues* Drawing::change(OdDbHandle handle)
         return nullptr;
     }
     Entry& entry = entries_.at(handle);
+    former_.try_emplace(handle, Former{StoredValuesOf(*object), entry.described, entry.changed});
     if (!entry.described)
     {
         entry.described = true;

@@ -4,6 +4,7 @@
 #include "embedded/object_values.h"
 #include "host/kernel/services.h"
 
+#include <optional>
 #include <unordered_map>
 #include <vector>
 
@@ -51,6 +52,10 @@ public:
     // An object that every drawing has and that is not saved.
     [[nodiscard]] OdDbObjectId appendUnsaved(const OdRxClass* objectClass, ObjectValues values);
 
+    // Makes all changes since the last call of either final, or undoes them.
+    void keepChanges();
+    void takeBackChanges();
+
     // Makes the current layout when no object line gives it. To be called once, when all objects are known.
     void complete();
 
@@ -91,6 +96,19 @@ private:
         std::int64_t line = 0;
     };
 
+    // What an object and the database-wide values were before they were changed.
+    struct Former
+    {
+        ObjectValues values;
+        bool described;
+        bool changed;
+    };
+    struct FormerValues
+    {
+        ObjectValues values;
+        std::vector<const ObjectKey*> changed;
+    };
+
     // Handles of objects that aren't saved come from here on; recorded ones are low.
     [[nodiscard]] OdDbHandle freeHighHandle() const;
 
@@ -100,5 +118,10 @@ private:
     std::vector<const ObjectKey*> changedValues_;
     OdDbHandle currentLayout_;
     OdDbHandle lastAppended_;
+
+    // Since the last changes were made final.
+    std::unordered_map<OdDbHandle, Former> former_;
+    std::optional<FormerValues> formerValues_;
+    std::vector<OdDbHandle> appended_;
 };
 } // namespace kv

@@ -157,8 +157,19 @@ private:
 ResultCode Session::RunCommand(CZtCommand& command, AnswerSource* answers)
 {
     RegisterHost(this);
+    Drawing& drawing = *state_->recording.drawing;
     CommandContext context(state_->recording, answers);
-    return command.execute(context);
+    try
+    {
+        const ResultCode result = command.execute(context);
+        result == ResultNormal ? drawing.keepChanges() : drawing.takeBackChanges();
+        return result;
+    }
+    catch (...)
+    {
+        drawing.takeBackChanges();
+        throw;
+    }
 }
 
 QByteArray Session::WithChanges(const QByteArray& source) const
