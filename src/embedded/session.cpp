@@ -11,6 +11,8 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
 
+#include <array>
+
 namespace kv
 {
 // The recording with what the module sees of it.
@@ -35,6 +37,16 @@ struct Session::State final : CZtSystemServices, CZtDocument
     }
 
     const CZtSystemSettings& Settings() const override { return recording.settings; }
+    CZtString StringForUnitScalingFactor(std::int32_t units) const override
+    {
+        static constexpr std::array words = {"Inches",      "Feet",       "Miles",        "Millimeters", "Centimeters",
+                                             "Meters",      "Kilometers", "Microinches",  "Mils",        "Yards",
+                                             "Angstroms",   "Nanometers", "Microns",      "Decimeters",  "Dekameters",
+                                             "Hectometers", "Gigameters", "Astronomical", "Light Years", "Parsecs"};
+        return units >= 1 && static_cast<std::size_t>(units) <= words.size()
+                   ? CZtString(QCoreApplication::translate("CZtUtils", words.at(static_cast<std::size_t>(units) - 1)))
+                   : CZtString();
+    }
     CZtDatabase* GetZtDatabase() override { return recording.drawing.get(); }
 
     Recording recording;

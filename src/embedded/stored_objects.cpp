@@ -446,12 +446,34 @@ private:
     const NumberList& columnWidths() const { return values_.get<NumberList>("columnWidths"); }
 };
 
-// The points that several dimension classes share.
+// What all dimensions answer.
 template <class Base>
-class WithExtensionLines : public Base
+class Dimension : public Stored<Base>
 {
 public:
-    using Base::Base;
+    using Stored<Base>::Stored;
+
+    // The journal lists the objects of reference 0 and of reference 2.
+    OdDbObjectId associatedObject(int reference) const override
+    {
+        const auto& objects = this->values_.template get<HandleList>("associations");
+        const auto index = static_cast<std::size_t>(reference / 2);
+        return reference >= 0 && reference % 2 == 0 && index < objects.size()
+                   ? this->drawing_.getOdDbObjectId(objects[index])
+                   : OdDbObjectId();
+    }
+    int dimfit() const override { return this->integer("fit"); }
+    bool textInsideAlign() const override { return this->flag("textInsideAlign"); }
+    bool textOutsideAlign() const override { return this->flag("textOutsideAlign"); }
+    double getExtLineFixLen() const override { return this->number("extLineFixLen"); }
+};
+
+// The points that several dimension classes share.
+template <class Base>
+class WithExtensionLines : public Dimension<Base>
+{
+public:
+    using Dimension<Base>::Dimension;
     OdGePoint3d xLine1Point() const override { return this->point("xLine1Point"); }
     OdGePoint3d xLine2Point() const override { return this->point("xLine2Point"); }
 };
@@ -474,24 +496,24 @@ public:
 };
 
 template <class Base>
-class WithChord final : public Stored<Base>
+class WithChord final : public Dimension<Base>
 {
 public:
-    using Stored<Base>::Stored;
+    using Dimension<Base>::Dimension;
     OdGePoint3d chordPoint() const override { return this->point("chordPoint"); }
 };
 
-class RotatedDimension final : public WithDimensionLine<Stored<OdDbRotatedDimension>>
+class RotatedDimension final : public WithDimensionLine<OdDbRotatedDimension>
 {
 public:
     using WithDimensionLine::WithDimensionLine;
     double rotation() const override { return number("rotation"); }
 };
 
-class TwoLineAngularDimension final : public Stored<OdDb2LineAngularDimension>
+class TwoLineAngularDimension final : public Dimension<OdDb2LineAngularDimension>
 {
 public:
-    using Stored::Stored;
+    using Dimension::Dimension;
     OdGePoint3d xLine1Start() const override { return point("xLine1Start"); }
     OdGePoint3d xLine1End() const override { return point("xLine1End"); }
     OdGePoint3d xLine2Start() const override { return point("xLine2Start"); }
@@ -499,21 +521,30 @@ public:
     OdGePoint3d arcPoint() const override { return point("arcPoint"); }
 };
 
-class ArcDimension final : public WithCenterAndArc<Stored<OdDbArcDimension>>
+class ArcDimension final : public WithCenterAndArc<OdDbArcDimension>
 {
 public:
     using WithCenterAndArc::WithCenterAndArc;
     bool isPartial() const override { return flag("isPartial"); }
 };
 
-class OrdinateDimension final : public Stored<OdDbOrdinateDimension>
+class OrdinateDimension final : public Dimension<OdDbOrdinateDimension>
 {
 public:
-    using Stored::Stored;
+    using Dimension::Dimension;
     OdGePoint3d definingPoint() const override { return point("definingPoint"); }
     OdGePoint3d leaderEndPoint() const override { return point("leaderEndPoint"); }
     bool isUsingXAxis() const override { return flag("isUsingXAxis"); }
     OdGePoint3d origin() const override { return point("origin"); }
+};
+
+class JoggedDimension final : public Dimension<OdDbRadialDimensionLarge>
+{
+public:
+    using Dimension::Dimension;
+    OdGePoint3d overrideCenter() const override { return point("overrideCenter"); }
+    OdGePoint3d jogPoint() const override { return point("jogPoint"); }
+    OdGePoint3d chordPoint() const override { return point("chordPoint"); }
 };
 
 using Factory = OdDbObjectPtr (*)(Drawing&, OdDbHandle, const OdRxClass*, ObjectValues);
@@ -548,18 +579,17 @@ void addOwn(FactoryTable& table)
 FactoryTable allFactories()
 {
     FactoryTable table;
-    addPlain<OdDbObject, OdDbEntity, OdDbCurve, OdDb2dPolyline, OdDbRasterImage, OdDbHatch, OdDbRegion, OdDbOle2Frame,
-             OdDbDimension, OdDbRadialDimensionLarge>(table);
+    addPlain<OdDbObject, OdDbEntity, OdDbCurve, OdDb2dPolyline, OdDbRasterImage, OdDbHatch, OdDbRegion, OdDbOle2Frame>(
+        table);
     addSymbols<OdDbSymbolTableRecord, OdDbLayerTableRecord, OdDbLinetypeTableRecord, OdDbDimStyleTableRecord,
                OdDbViewportTableRecord>(table);
     addOwn<Point, Straight<OdDbRay>, Straight<OdDbXline>, Polyline<OdDbPolyline>, Polyline<OdDb3dPolyline>, Spline,
            Face, PolygonMesh, PolyFaceMesh, WithVertices<OdDbSolid>, WithVertices<OdDbTrace>, WithText<OdDbText>,
            AttributeDefinition, BlockReference, Shape, Viewport, RichLineStyle, TableStyle>(table);
     addOwn<Line, Circle, Arc, Ellipse, TextStyle, View, Block, Group, Layout, MText, Leader, Tolerance, RichLine, Table,
-           RotatedDimension, TwoLineAngularDimension, ArcDimension, OrdinateDimension,
-           WithChord<OdDbDiametricDimension>, WithChord<OdDbRadialDimension>,
-           WithDimensionLine<Stored<OdDbAlignedDimension>>, WithCenterAndArc<Stored<OdDb3PointAngularDimension>>>(
-        table);
+           RotatedDimension, TwoLineAngularDimension, ArcDimension, OrdinateDimension, JoggedDimension,
+           Dimension<OdDbDimension>, WithChord<OdDbDiametricDimension>, WithChord<OdDbRadialDimension>,
+           WithDimensionLine<OdDbAlignedDimension>, WithCenterAndArc<OdDb3PointAngularDimension>>(table);
     return table;
 }
 } // namespace

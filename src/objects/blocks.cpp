@@ -67,8 +67,11 @@ QString CZtConverterKVAPIObject::CreateBlockDefinition(const Creation& creation)
     }
     if (const CZtVariant unit = properties.TakeProperty("BlockUnit", &consumed); !unit.IsNull())
     {
+        // The units come as a number or as the user's word for it.
+        bool isNumber = false;
+        const int number = TextOf(unit).toInt(&isNumber);
         text += WriteSetEnumProperty(variable, kv::EnumKind::BlockInsertUnits, QStringLiteral("BlockInsertUnits"),
-                                     TextOf(unit));
+                                     isNumber ? CZtUtils::GetStringForUnitScalingFactor(number).text() : TextOf(unit));
     }
     if (CZtDocument* document = ACTIVE_DOCUMENT())
     {
@@ -98,6 +101,40 @@ QString CZtConverterKVAPIObject::LastText(const OdArray<OdResBufPtr>& data)
         }
     }
     return last;
+}
+
+CustomData CZtConverterKVAPIObject::CustomDataOf(const OdArray<OdResBufPtr>& data)
+{
+    // Group codes: points and vectors, reals, integers; all others are texts, the first the application's name.
+    constexpr int firstPoint = 1010;
+    constexpr int firstReal = 1040;
+    constexpr int firstInteger = 1060;
+    CustomData custom;
+    for (const OdResBufPtr& item : data)
+    {
+        const int code = item->restype();
+        if (custom.application.isEmpty())
+        {
+            custom.application = item->getString();
+        }
+        else if (code >= firstInteger)
+        {
+            custom.items.push_back({code, item->getInt32()});
+        }
+        else if (code >= firstReal)
+        {
+            custom.items.push_back({code, item->getDouble()});
+        }
+        else if (code >= firstPoint)
+        {
+            custom.items.push_back({code, item->getPoint3d()});
+        }
+        else
+        {
+            custom.items.push_back({code, QString(item->getString())});
+        }
+    }
+    return custom;
 }
 
 QString CZtConverterKVAPIObject::BlockDefinition(const QString& variable, const QString& name,
@@ -172,7 +209,8 @@ QString CZtConverterKVAPIObject::CreateBlockInstance(const Creation& creation)
     const auto reference = Opened<OdDbBlockReference>(handle);
     const auto block = reference ? Opened<OdDbBlockTableRecord>(reference->blockTableRecord().getHandle())
                                  : OdSmartPtr<OdDbBlockTableRecord>();
-    const bool isCloud = reference && !reference->xData(CloudData).isEmpty();
+    const OdArray<OdResBufPtr> cloud = reference ? reference->xData(CloudData) : OdArray<OdResBufPtr>();
+    const bool isCloud = !cloud.isEmpty();
     QString text;
     if (isCloud)
     {
@@ -190,6 +228,10 @@ QString CZtConverterKVAPIObject::CreateBlockInstance(const Creation& creation)
     {
         text += WriteInsertBlockInstance(variable, isCloud ? variable + QLatin1String("Name") : name, isCloud, position,
                                          {scaleX, scaleY, scaleZ}, rotation);
+    }
+    if (isCloud)
+    {
+        text += WriteCustomData(variable, CustomDataOf(cloud));
     }
     const std::size_t attributes = reference ? reference->attributeIds().size() : 0;
     for (std::size_t i = 0; i < attributes; ++i)

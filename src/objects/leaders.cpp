@@ -2,6 +2,7 @@
 #include "core/escape.h"
 #include "host/db/blocks.h"
 #include "host/db/text.h"
+#include "objects/dimension_settings.h"
 #include "objects/object_converter.h"
 #include "objects/variant_readers.h"
 
@@ -76,5 +77,17 @@ QString CZtConverterKVAPIObject::LeaderNote(const QString& leader, const OdDbMTe
     {
         text += WriteSetStringProperty(variable, QStringLiteral("TextStyle"), style->getName(), true);
     }
+    return text;
+}
+
+QString CZtConverterKVAPIObject::ConvertLeader(const PropertyPass& pass)
+{
+    if (pass.created)
+    {
+        return {};
+    }
+    QString text = ChangeText(pass, "Dim style", "DimensionStyle");
+    text += ChangeArrows(pass, DimensionRoot::Annotation);
+    text += ChangeLineLook(pass, DimensionRoot::Annotation);
     return text;
 }

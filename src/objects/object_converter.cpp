@@ -131,6 +131,18 @@ ResultCode CZtConverterKVAPIObject::ConvertCreation(const OdRxClass* objectClass
         {OdDbGroup::desc(), &CZtConverterKVAPIObject::CreateGroup},
         {OdDbViewport::desc(), &CZtConverterKVAPIObject::CreateViewport},
         {OdDbBlockTableRecord::desc(), &CZtConverterKVAPIObject::CreateBlockDefinition},
+        {OdDbAlignedDimension::desc(), &CZtConverterKVAPIObject::CreateAlignedDimension},
+        {OdDbRotatedDimension::desc(), &CZtConverterKVAPIObject::CreateRotatedDimension},
+        {OdDb2LineAngularDimension::desc(), &CZtConverterKVAPIObject::CreateTwoLineDimension},
+        {OdDb3PointAngularDimension::desc(), &CZtConverterKVAPIObject::CreateThreePointDimension},
+        {OdDbArcDimension::desc(), &CZtConverterKVAPIObject::CreateArcDimension},
+        {OdDbOrdinateDimension::desc(), &CZtConverterKVAPIObject::CreateOrdinateDimension},
+        {OdDbDiametricDimension::desc(), &CZtConverterKVAPIObject::CreateDiametricDimension},
+        {OdDbRadialDimension::desc(), &CZtConverterKVAPIObject::CreateRadialDimension},
+        {OdDbRadialDimensionLarge::desc(), &CZtConverterKVAPIObject::CreateJoggedDimension},
+        {OdDbDimStyleTableRecord::desc(), &CZtConverterKVAPIObject::CreateDimensionStyle},
+        {OdDbTable::desc(), &CZtConverterKVAPIObject::CreateTable},
+        {OdDbTableStyle::desc(), &CZtConverterKVAPIObject::CreateTableStyle},
     };
     text.clear();
     if (Converter().FindKnownObject(handle) == nullptr)
@@ -201,7 +213,25 @@ QString CZtConverterKVAPIObject::ConvertClassProperties(const OdRxClass* objectC
         {OdDbViewport::desc(), &CZtConverterKVAPIObject::ConvertViewport},
         {OdDbViewportTableRecord::desc(), &CZtConverterKVAPIObject::ConvertViewTile},
         {OdDbLayout::desc(), &CZtConverterKVAPIObject::ConvertLayout},
+        {OdDbLeader::desc(), &CZtConverterKVAPIObject::ConvertLeader},
+        {OdDbAlignedDimension::desc(), &CZtConverterKVAPIObject::ConvertAlignedDimensionProperties},
+        {OdDbRotatedDimension::desc(), &CZtConverterKVAPIObject::ConvertRotatedDimensionProperties},
+        {OdDb2LineAngularDimension::desc(), &CZtConverterKVAPIObject::ConvertAngularDimensionProperties},
+        {OdDb3PointAngularDimension::desc(), &CZtConverterKVAPIObject::ConvertAngularDimensionProperties},
+        {OdDbArcDimension::desc(), &CZtConverterKVAPIObject::ConvertArcDimensionProperties},
+        {OdDbOrdinateDimension::desc(), &CZtConverterKVAPIObject::ConvertOrdinateDimensionProperties},
+        {OdDbDiametricDimension::desc(), &CZtConverterKVAPIObject::ConvertDiametricDimensionProperties},
+        {OdDbRadialDimension::desc(), &CZtConverterKVAPIObject::ConvertRadialDimensionProperties},
+        {OdDbRadialDimensionLarge::desc(), &CZtConverterKVAPIObject::ConvertJoggedDimensionProperties},
+        {OdDbDimStyleTableRecord::desc(), &CZtConverterKVAPIObject::ConvertDimensionStyle},
+        {OdDbTable::desc(), &CZtConverterKVAPIObject::ConvertTable},
+        {OdDbTableStyle::desc(), &CZtConverterKVAPIObject::ConvertTableStyle},
     };
+    // A dimension just made has all from its style.
+    if (pass.created && IsDimensionClass(objectClass))
+    {
+        return {};
+    }
     const auto branch = branches.find(objectClass);
     return branch != branches.end() ? (this->*branch->second)(pass) : QString();
 }
@@ -209,10 +239,17 @@ QString CZtConverterKVAPIObject::ConvertClassProperties(const OdRxClass* objectC
 QString CZtConverterKVAPIObject::ConvertErased(const OdRxClass* objectClass, const PropertyPass& pass)
 {
     const CZtVariant erased = pass.properties.TakeProperty("Erased");
-    // An object that comes back is not replayed.
-    if (pass.created || erased.IsNull() || !IsWord(words_, erased, "YES", Qt::CaseInsensitive))
+    if (pass.created || erased.IsNull())
     {
         return {};
+    }
+    // A dimension is erased as the general one that it is.
+    QString variable = pass.variable;
+    QString head = IsDimensionClass(objectClass) ? OpenGeneralDimension(pass.variable, variable) : QString();
+    // An object that comes back is not replayed.
+    if (!IsWord(words_, erased, "YES", Qt::CaseInsensitive))
+    {
+        return head;
     }
     // Views and layers are removed from their tables.
     if (objectClass == OdDbViewTableRecord::desc())
@@ -224,7 +261,7 @@ QString CZtConverterKVAPIObject::ConvertErased(const OdRxClass* objectClass, con
     {
         return WriteRemoveLayer(pass.variable);
     }
-    return WriteSetBoolProperty(pass.variable, QStringLiteral("Erased"), true);
+    return head + WriteSetBoolProperty(variable, QStringLiteral("Erased"), true);
 }
 
 ResultCode CZtConverterKVAPIObject::ConvertProperties(const OdRxClass* objectClass, OdDbHandle handle,
@@ -261,13 +298,21 @@ ResultCode CZtConverterKVAPIObject::ConvertProperties(const OdRxClass* objectCla
     }
 
     const std::int32_t levelOutside = Counters().IndentLevel;
-    const QString blockBegin = Converter().WriteBlockBegin();
+    QString blockBegin = Converter().WriteBlockBegin();
     const PropertyPass pass{properties, created, variable, handle};
     bool noBlock = false;
     QString common;
     if (objectClass->isDerivedFrom(OdDbEntity::desc()))
     {
-        common = ConvertEntityProperties(pass, noBlock);
+        // What all entities have, a dimension has as the general one that it is. Without a block the way to that one
+        // is lost; the format's.
+        QString general = variable;
+        const QString generalHead = IsDimensionClass(objectClass) ? OpenGeneralDimension(variable, general) : QString();
+        common = ConvertEntityProperties({properties, created, general, handle}, noBlock);
+        if (!common.isEmpty())
+        {
+            blockBegin += generalHead;
+        }
     }
     QString own = ConvertClassProperties(objectClass, pass);
     own += ConvertErased(objectClass, pass);

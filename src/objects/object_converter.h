@@ -11,14 +11,21 @@
 #include "objects/attribute_flags.h"
 #include "objects/axis.h"
 #include "objects/created_objects.h"
+#include "objects/custom_data.h"
+#include "objects/dimension_settings.h"
 #include "objects/display_words.h"
 #include "objects/hatch_data.h"
 #include "objects/hyperlink.h"
+#include "objects/measured_curve.h"
 #include "objects/property_list.h"
 
 #include <array>
+#include <functional>
+#include <initializer_list>
+#include <map>
 #include <optional>
 
+class OdDbDimension;
 class OdDbFcf;
 class OdDbMText;
 class OdDbPolyFaceMesh;
@@ -78,7 +85,7 @@ private:
     struct PropertyPass
     {
         PropertyList& properties;
-        bool created; // the object was made just now, by a call that carries most of its properties
+        bool created = false; // the object was made just now, by a call that carries most of its properties
         const QString& variable;
         OdDbHandle handle;
     };
@@ -243,6 +250,7 @@ private:
     [[nodiscard]] static OdArray<OdDbObjectId> ObjectsOf(const CZtVariant& list);
     [[nodiscard]] static QString FirstText(const OdArray<OdResBufPtr>& data);
     [[nodiscard]] static QString LastText(const OdArray<OdResBufPtr>& data);
+    [[nodiscard]] static CustomData CustomDataOf(const OdArray<OdResBufPtr>& data);
     [[nodiscard]] QString BlockDefinition(const QString& variable, const QString& name, const QString& description,
                                           const OdGePoint3d& basePoint, const OdArray<OdDbObjectId>& ids);
     [[nodiscard]] QString BlockContents(const QString& definition, const OdArray<OdDbObjectId>& ids);
@@ -269,7 +277,97 @@ private:
     [[nodiscard]] QString ConvertViewTile(const PropertyPass& pass);
     [[nodiscard]] QString ConvertLayout(const PropertyPass& pass);
 
+    // Dimensions. A curve or line that the macro doesn't have is made for the insertion: the head makes a line, the
+    // tail erases it.
+    [[nodiscard]] static OdGePoint3d TakePoint(const Creation& creation, const char* name);
+    [[nodiscard]] static QString TakeTextOverride(const Creation& creation);
+    [[nodiscard]] std::optional<MeasuredCurve> MeasuredBy(const Creation& creation) const;
+    [[nodiscard]] QString MeasuredLine(const OdDbObjectId& line, const QString& temporary, const OdGePoint3d& start,
+                                       const OdGePoint3d& end, QString& head, QString& tail);
+    [[nodiscard]] QString CreateAlignedDimension(const Creation& creation);
+    [[nodiscard]] QString CreateRotatedDimension(const Creation& creation);
+    [[nodiscard]] QString CreateTwoLineDimension(const Creation& creation);
+    [[nodiscard]] QString CreateThreePointDimension(const Creation& creation);
+    [[nodiscard]] QString CreateArcDimension(const Creation& creation);
+    [[nodiscard]] QString CreateOrdinateDimension(const Creation& creation);
+    [[nodiscard]] QString CreateDiametricDimension(const Creation& creation);
+    [[nodiscard]] QString CreateRadialDimension(const Creation& creation);
+    [[nodiscard]] QString CreateJoggedDimension(const Creation& creation);
+
+    // Settings of dimensions and dimension styles. OpenOptions gives the way from the object to an option object and
+    // the local that holds it; each setting goes its own way. A setting that needs the dimension throws
+    // OdError_NotThatKindOfClass when it is gone.
+    using SettingWriter = std::function<QString(const QString& options, const CZtVariant& value)>;
+    [[nodiscard]] QString NextLocal(const char* stem);
+    [[nodiscard]] QString OpenGeneralDimension(const QString& dimension, QString& general);
+    [[nodiscard]] QString OpenOptions(const QString& root, DimensionRoot kind, const DimensionOptions& options,
+                                      QString& local);
+    [[nodiscard]] bool IsSet(const CZtVariant& value, DimensionRoot kind) const;
+    [[nodiscard]] QString WriteSetting(const QString& variable, DimensionRoot kind, const DimensionSetting& setting,
+                                       const CZtVariant& value);
+    [[nodiscard]] QString ChangeSettings(const PropertyPass& pass, DimensionRoot kind, const DimensionOptions& options,
+                                         std::initializer_list<DimensionSetting> settings);
+    [[nodiscard]] QString ChangeSetting(const PropertyPass& pass, DimensionRoot kind, const DimensionOptions& options,
+                                        const char* label, const SettingWriter& write);
+    [[nodiscard]] static OdSmartPtr<OdDbDimension> OpenedDimension(const PropertyPass& pass);
+    [[nodiscard]] QString ChangeArrows(const PropertyPass& pass, DimensionRoot kind);
+    [[nodiscard]] QString ChangeFit(const PropertyPass& pass);
+    [[nodiscard]] QString ChangeLineColor(const PropertyPass& pass, DimensionRoot kind);
+    [[nodiscard]] QString ChangeLineLook(const PropertyPass& pass, DimensionRoot kind);
+    [[nodiscard]] QString ChangeLines(const PropertyPass& pass);
+    [[nodiscard]] QString ChangeDimensionText(const PropertyPass& pass);
+    [[nodiscard]] QString ChangeToleranceSettings(const PropertyPass& pass);
+    [[nodiscard]] QString ChangePrimaryUnits(const PropertyPass& pass, bool isAngular);
+    [[nodiscard]] QString ChangeAlternateUnits(const PropertyPass& pass);
+    [[nodiscard]] QString ConvertDimension(const PropertyPass& pass, bool isAngular);
+    [[nodiscard]] QString ConvertAlignedDimensionProperties(const PropertyPass& pass);
+    [[nodiscard]] QString ConvertAngularDimensionProperties(const PropertyPass& pass);
+    [[nodiscard]] QString ConvertArcDimensionProperties(const PropertyPass& pass);
+    [[nodiscard]] QString ConvertDiametricDimensionProperties(const PropertyPass& pass);
+    [[nodiscard]] QString ConvertRadialDimensionProperties(const PropertyPass& pass);
+    [[nodiscard]] QString ConvertJoggedDimensionProperties(const PropertyPass& pass);
+    [[nodiscard]] QString ConvertOrdinateDimensionProperties(const PropertyPass& pass);
+    [[nodiscard]] QString ConvertRotatedDimensionProperties(const PropertyPass& pass);
+    [[nodiscard]] QString ConvertLeader(const PropertyPass& pass);
+
+    // Dimension styles.
+    [[nodiscard]] QString CreateDimensionStyle(const Creation& creation);
+    [[nodiscard]] QString StyleArrows(const PropertyPass& pass);
+    [[nodiscard]] QString StyleDualUnits(const PropertyPass& pass);
+    [[nodiscard]] QString StyleFit(const PropertyPass& pass);
+    [[nodiscard]] QString StyleLinearUnits(const PropertyPass& pass);
+    [[nodiscard]] QString StyleLines(const PropertyPass& pass);
+    [[nodiscard]] QString StyleCenterMark(const PropertyPass& pass);
+    [[nodiscard]] QString StyleText(const PropertyPass& pass);
+    [[nodiscard]] QString StyleTolerance(const PropertyPass& pass);
+    [[nodiscard]] QString ConvertDimensionStyle(const PropertyPass& pass);
+
+    // Tables, each with the counts and the sizes that the macro's table has at this point of the replay, and table
+    // styles. EachOf writes the values of a list, counted from 1 up to the limit.
+    struct TableState
+    {
+        std::int32_t rows = 0;
+        std::int32_t columns = 0;
+        double height = 0.0;
+        double width = 0.0;
+    };
+    [[nodiscard]] QString CreateTable(const Creation& creation);
+    [[nodiscard]] QString SetTableText(const QString& variable, const PropertyList::Numbered& cell);
+    [[nodiscard]] QString AddTableLines(const PropertyPass& pass, bool areRows, std::int32_t first);
+    [[nodiscard]] QString ChangeTableCount(const PropertyPass& pass, const char* name, bool areRows,
+                                           std::int32_t& count);
+    [[nodiscard]] QString ChangeTableSize(const PropertyPass& pass, const char* name, bool areSingleSizesHere,
+                                          bool areRows, double& size);
+    [[nodiscard]] QString ConvertTable(const PropertyPass& pass);
+    [[nodiscard]] static QString FirstTextOf(const CZtVariant& value);
+    [[nodiscard]] QString SetTableDirection(const QString& variable, const QString& direction, bool isStyle);
+    [[nodiscard]] QString CreateTableStyle(const Creation& creation);
+    [[nodiscard]] static QString EachOf(const CZtVariant& list, int limit,
+                                        const std::function<QString(int, const CZtVariant&)>& write);
+    [[nodiscard]] QString ConvertTableStyle(const PropertyPass& pass);
+
     CZtConverterKVAPIImpl* converter_;
     CreatedObjects createdObjects_;
+    std::map<QString, TableState> tables_; // by the variable of the table
     DisplayWords words_;
 };

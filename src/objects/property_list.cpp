@@ -3,7 +3,9 @@
 
 #include <QtCore/QStringList>
 
+#include <algorithm>
 #include <cstring>
+#include <iterator>
 
 namespace
 {
@@ -56,6 +58,40 @@ OdArray<OdGePoint3d> PropertyList::TakePoints(const char* name, ConsumedProperti
         }
     }
     return points;
+}
+
+std::vector<PropertyList::Numbered> PropertyList::Series(const char* stem) const
+{
+    std::vector<Numbered> series;
+    for (const CZtPropertyElement* element : elements_)
+    {
+        const QString name = element->GetName().text();
+        if (!name.startsWith(QLatin1String(stem)))
+        {
+            continue;
+        }
+        Numbered item{{}, element->GetValue(hostContext_)};
+        if (item.value.IsNull())
+        {
+            continue;
+        }
+        const QStringList fields = name.split(QLatin1Char('_'));
+        std::ranges::transform(fields.cbegin() + 1, fields.cend(), std::back_inserter(item.fields),
+                               [](const QString& field) { return field.toInt(); });
+        series.push_back(std::move(item));
+    }
+    return series;
+}
+
+std::vector<PropertyList::Numbered> PropertyList::TakeSeries(const char* stem, ConsumedProperties& consumed)
+{
+    std::vector<Numbered> series = Series(stem);
+    const auto isOther = [&](const CZtPropertyElement* element)
+    { return !element->GetName().text().startsWith(QLatin1String(stem)); };
+    const auto taken = std::stable_partition(elements_.begin(), elements_.end(), isOther);
+    consumed.insert(consumed.end(), taken, elements_.end());
+    elements_.erase(taken, elements_.end());
+    return series;
 }
 
 bool PropertyList::Holds(const char* name) const

@@ -40,6 +40,18 @@ public:
     // The points of a list; empty when it is missing or no list.
     OdArray<OdGePoint3d> TakePoints(const char* name, ConsumedProperties* consumed = nullptr);
 
+    // An element of a series: its fields, which stand behind the stem and are parted by "_", and its value.
+    struct Numbered
+    {
+        std::vector<int> fields;
+        CZtVariant value;
+    };
+
+    // The elements with a value whose name begins with the stem, in their order: they stay in the list. With the
+    // consumed ones given they are taken. A field that is no number is 0.
+    [[nodiscard]] std::vector<Numbered> Series(const char* stem) const;
+    [[nodiscard]] std::vector<Numbered> TakeSeries(const char* stem, ConsumedProperties& consumed);
+
     // True when the list holds an element of the name.
     [[nodiscard]] bool Holds(const char* name) const;
 

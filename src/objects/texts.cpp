@@ -1,6 +1,7 @@
 // Texts of one line, notes and tolerances.
 #include "core/escape.h"
 #include "host/db/text.h"
+#include "objects/dimension_settings.h"
 #include "objects/object_converter.h"
 #include "objects/variant_readers.h"
 
@@ -209,6 +210,10 @@ QString CZtConverterKVAPIObject::ConvertTolerance(const PropertyPass& pass)
         ChangePoint(pass, {"Position X", "Position Y", "Position Z"}, &CZtConverterKVAPIObject::WriteSetPosition);
     text += ChangeDouble(pass, "Dim scale overall", "DimensionScaleFactor");
     text += ChangeText(pass, "Dim style", "DimensionStyle");
+    if (!pass.created)
+    {
+        text += ChangeLineColor(pass, DimensionRoot::Annotation);
+    }
     text += ChangeText(pass, "TextStyle", "TextStyle");
     text += ChangeDouble(pass, "Text height", "TextHeight");
     if (const CZtVariant color = pass.properties.TakeProperty("TextColor"); !color.IsNull())

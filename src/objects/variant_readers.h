@@ -16,6 +16,18 @@
     return element != nullptr ? element->GetValue()->GetString().text() : QString();
 }
 
+// The number of a value: the tag of the selected element of a selection or of an element, else its own. 0 for a
+// selection without a current element.
+[[nodiscard]] inline std::int32_t TagOf(const CZtVariant& value)
+{
+    if (value.GetType() != CZtVariant::kCollection && value.GetType() != CZtVariant::kElement)
+    {
+        return value.GetInt32();
+    }
+    const CZtVariantCollectionElement* element = value.GetCollectionElement();
+    return element != nullptr ? element->GetTag()->GetInt32() : 0;
+}
+
 // True when the text of a value is the word in the user's language.
 [[nodiscard]] inline bool IsWord(const DisplayWords& words, const CZtVariant& value, const char* word,
                                  Qt::CaseSensitivity sensitivity = Qt::CaseSensitive)

@@ -51,15 +51,10 @@ QString CZtConverterKVAPIObject::ConvertViewTile(const PropertyPass& pass)
 
 QString CZtConverterKVAPIObject::ConvertLayout(const PropertyPass& pass)
 {
-    const auto layout = pass.created ? OdSmartPtr<OdDbLayout>() : Opened<OdDbLayout>(pass.handle);
-    if (!layout)
-    {
-        return {};
-    }
-    const bool isModel = layout->modelType();
-    const CZtVariant style =
-        pass.properties.TakeProperty(isModel ? "Model_PrintStyleTable" : "SheetName_PrintStyleTable");
-    return style.IsNull() ? QString()
-                          : WriteSetNamedProperty(QStringLiteral("PrintStyleTable"), TextOf(style), isModel,
-                                                  layout->getLayoutName());
+    const CZtVariant style = pass.properties.TakeProperty("PrintStyleTable");
+    const bool isModel = IsWord(words_, pass.properties.TakeProperty("Model_PrintStyleTable"), "Yes");
+    const QString sheet = TextOf(pass.properties.TakeProperty("SheetName_PrintStyleTable"));
+    return style.IsNull() || pass.created
+               ? QString()
+               : WriteSetNamedProperty(QStringLiteral("PrintStyleTable"), TextOf(style), isModel, sheet);
 }

@@ -38,6 +38,7 @@ public:
     CZtSystemServices& SystemServices() override { return *this; }
     CZtDocument* ActiveDocument() override { return this; }
     const CZtSystemSettings& Settings() const override { return *this; }
+    CZtString StringForUnitScalingFactor(std::int32_t /*units*/) const override { return {}; }
     std::int16_t MacroLanguage() const override { return 0; }
     std::int16_t ChamferMode() const override { return 0; }
     std::int16_t EdgeMode() const override { return 0; }

@@ -61,6 +61,31 @@ CREATIONS = {
     "AcDbRay": ("Ray", [*_names("Base point"), *_names("Second point")]),
     "AcDbArc": ("CircleArc", [*_names("Center"), ("Radius", 1.0), "Start Angle", "End Angle"]),
     "AcDbXline": ("InfiniteLine", [*_names("Base point"), *_names("Second point")]),
+    "AcDbText": ("SimpleNote", [*_names("Text alignment"), ("Height", 2.5), "Rotation"]),
+    "AcDbBlockReference": ("BlockInstance", [*_names("Position"), *((n, 1.0) for n in _names("Scale")), "Rotation"]),
+}
+
+# Insertions by points: kind, property, coordinates of each point, vectors behind.
+VERTICES = {
+    "AcDbPolyline": ("PolyLine", "Vertex", 2, ()),
+    "AcDb3dPolyline": ("PolyLine3D", "Vertex", 3, ()),
+    "AcDbSpline": ("Spline", "Fit point", 3, ("Start tangent vector", "End tangent vector")),
+}
+
+# Dimensions by points alone: kind, points, further value.
+DIMENSIONS = {
+    "AcDbAlignedDimension": ("AlignedDimension", ("xLine1Point", "xLine2Point", "dimLinePoint"), None),
+    "AcDbRotatedDimension": ("RotatedDimension", ("xLine1Point", "xLine2Point", "dimLinePoint"), "rotation"),
+    "AcDb3PointAngularDimension": ("AngularDimension3Point",
+                                   ("centerPoint", "xLine1Point", "xLine2Point", "arcPoint"), None),
+    "AcDbOrdinateDimension": ("OrdinateDimension", ("definingPoint", "leaderEndPoint"), "isUsingXAxis"),
+}
+# Dimensions of a circle or an arc: kind, points.
+ON_CURVES = {
+    "AcDbDiametricDimension": ("DiameterDimension", ("chordPoint",)),
+    "AcDbRadialDimension": ("RadialDimension", ("chordPoint",)),
+    "AcDbRadialDimensionLarge": ("JoggedDimension", ("overrideCenter", "jogPoint", "chordPoint")),
+    "AcDbArcDimension": ("ArcLengthDimensionPartial", ("xLine1Point", "xLine2Point", "arcPoint")),
 }
 
 # Kind of a prompt: its name, the default, the codes of answers that count ("not text" for all but texts), its fallback.
@@ -221,6 +246,16 @@ class Reader:
         kind = event["class"]
         if kind == "AcDbEllipse":
             insertion = self.ellipse(properties)
+        elif kind in VERTICES:
+            insertion = self.vertices(*VERTICES[kind], properties)
+        elif kind == "AcDbMText":
+            insertion = self.note(event, properties)
+        elif kind.endswith("Dimension") or kind in ON_CURVES:
+            insertion = self.dimension(kind, handle_of(event["handle"]))
+        elif kind == "AcDbTable":
+            insertion = ["Table", [self.number(name, properties)
+                                   for name in (*_names("Position"), "Rows", "Columns", "RowHeight_0", "ColumnWidth_0")]
+                         + [False]]
         elif kind in CREATIONS:
             kind, wanted = CREATIONS[kind]
             insertion = [kind, [self.number(*((w, properties) if isinstance(w, str) else (w[0], properties, w[1])))
@@ -240,6 +275,65 @@ class Reader:
                    self.number("Minor radius", properties, 1.0)]
         whole = start == 0.0 and end == 6.283185307179586
         return ["Ellipse", numbers] if whole else ["EllipseArc", [*numbers, start, end]]
+
+    def points(self, name, properties):
+        value = self.find(name, properties) or {}
+        if "points" in value:
+            return value["points"]
+        return [element["value"]["point"] for element in value.get("collection", {}).get("elements", [])]
+
+    def chosen(self, name, properties):
+        """The text of a property, or of the selected element of one."""
+        value = self.find(name, properties)
+        if isinstance(value, dict) and "collection" in value:
+            value = value["collection"]["elements"][value["collection"]["index"]]["value"]
+        return value if isinstance(value, str) else ""
+
+    def vertices(self, kind, name, dimensions, vectors, properties):
+        numbers = [c for point in self.points(name, properties) for c in point[:dimensions]]
+        yes = self.words.get("property_values", {}).get("Yes", "Yes")
+        closed = self.chosen("Closed", properties) == yes
+        return [kind, [numbers, closed, *(self.number(w, properties) for v in vectors for w in _names(v))]]
+
+    def note(self, event, properties):
+        """The corners of the box that a note's text fills, from the point that it hangs on."""
+        width = self.number("Width", properties)
+        collected = self.objects[handle_of(event["handle"])].get("actualHeight", 0.0)
+        height = self.number("TextBoxHeight", properties, collected)
+        x, y, z = (self.number(name, properties) for name in _names("Position"))
+        row, column = (self.chosen("Justify", properties) or "Top Left").split()
+        x -= width * {"Left": 0.0, "Center": 0.5, "Right": 1.0}[column]
+        y += height * {"Top": 0.0, "Middle": 0.5, "Bottom": 1.0}[row]
+        return ["Note", [x, y, z, x + width, y - height, z]]
+
+    def temporary(self, handle, kind, numbers):
+        """The object that a dimension measures; one that the macro didn't draw is drawn for it."""
+        if handle in self.numbers:
+            return self.numbers[handle]
+        self.count += 1
+        self.steps.append(["insert", kind, numbers])
+        return self.count
+
+    def dimension(self, kind, handle):
+        dimension = self.objects[handle]
+        associated = [handle_of(other) if other else None for other in dimension.get("associations", [])]
+        if kind in DIMENSIONS:
+            kind, points, more = DIMENSIONS[kind]
+            return [kind, [*(dimension[point] for point in points), *([dimension[more]] if more else [])]]
+        if kind in ON_CURVES:
+            curve = self.objects[associated[0]]
+            is_arc = curve["class"] == "AcDbArc"
+            keys = ("center", "radius", "startAngle", "endAngle") if is_arc else ("center", "radius")
+            numbers = [curve.get(key) for key in keys]
+            kind, points = ON_CURVES[kind]
+            measured = self.temporary(associated[0], "CircleArc" if is_arc else "Circle",
+                                      [*(numbers.pop(0) or ()), *numbers])
+            kind += "" if kind.startswith("ArcLength") else "Arc" if is_arc else "Circle"
+            return [kind, [measured, *(dimension[point] for point in points)]]
+        associated += [None] * (2 - len(associated))
+        lines = [self.temporary(other, "Line", [*dimension[f"xLine{i}Start"], *dimension[f"xLine{i}End"]])
+                 for i, other in enumerate(associated, 1)]
+        return ["AngularDimension2Line", [*lines, dimension["arcPoint"]]]
 
     def modified(self, event):
         collected = self.objects.get(handle_of(event["handle"]), {})

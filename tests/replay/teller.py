@@ -3,6 +3,8 @@ import re
 
 INSERTIONS = {"InsertLine": "Line", "InsertCircle": "Circle", "InsertPoint": "Point", "InsertRay": "Ray",
               "InsertArc": "CircleArc", "InsertInfiniteLine": "InfiniteLine",
+              "InsertPolyline2D": "PolyLine", "InsertPolyline3D": "PolyLine3D", "InsertSpline": "Spline",
+              "InsertSimpleNote": "SimpleNote", "InsertNote": "Note", "InsertBlock2": "BlockInstance",
               "InsertEllipseDistanceToOtherAxis": "Ellipse", "InsertEllipseArcDistanceToOtherAxis": "EllipseArc"}
 
 
@@ -11,6 +13,7 @@ class Teller:
 
     def __init__(self):
         self.steps = []
+        self.inserted = 0
         self.numbers = {}    # number of a recorded object -> number of the story's object
         self.values = {}     # colours, points, transparencies by recorded number
         self.owners = {}     # transparency -> the object that it was taken from
@@ -27,6 +30,12 @@ class Teller:
     def tell(self, target, owner, member, arguments):
         if member in INSERTIONS:
             self.insert(INSERTIONS[member], arguments)
+        elif member.startswith("Insert") and "Dimension" in member:
+            self.insert(member[len("Insert"):], arguments)
+        elif member == "InsertTable":
+            self.insert("Table", arguments[:6] + arguments[7:])  # the type of a cell is a cast number
+        elif member == "GetGeneralDimension":
+            self.numbers[arguments[-1]["out"]] = self.numbers[target]
         elif owner == "Document" and member == "GetSheet" and not self.begun:
             self.start = (arguments[-1]["out"], arguments[0])
         elif owner == "Sheet" and member == "Activate" and target == self.start[0]:
@@ -50,9 +59,12 @@ class Teller:
             self.fill(target, arguments[0])
 
     def insert(self, kind, arguments):
-        number = arguments[-1]["out"]
-        self.numbers[number] = len(self.numbers) + 1
-        self.steps.append(["insert", kind, arguments[:-1]])
+        self.inserted += 1
+        self.numbers[arguments[-1]["out"]] = self.inserted
+        # Texts stand in macros as they are, whatever they hold: only numbers are compared.
+        numbers = [self.numbers.get(a["object"]) if isinstance(a, dict) else a for a in arguments[:-1] if not isinstance(a, str) and not (isinstance(a, list) and a and
+                                                                                 isinstance(a[0], str))]
+        self.steps.append(["insert", kind, numbers])
 
     def change(self, target, member, arguments):
         number = self.numbers[target]

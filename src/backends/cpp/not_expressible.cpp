@@ -44,3 +44,39 @@ QString CZtConverterKVAPIObjectCPP::WriteSetRichLineStyle(const QString& /*varia
 {
     return {};
 }
+
+QString CZtConverterKVAPIObjectCPP::WriteSetCellAlignment(const QString& /*variable*/, std::int32_t /*cellType*/,
+                                                          const QString& /*alignment*/)
+{
+    return {};
+}
+
+QString CZtConverterKVAPIObjectCPP::WriteSetCellColor(const QString& /*variable*/, const QString& /*word*/,
+                                                      std::int32_t /*cellType*/, const OdCmColor& /*color*/)
+{
+    return {};
+}
+
+QString CZtConverterKVAPIObjectCPP::WriteSetCellTextHeight(const QString& /*variable*/, std::int32_t /*cellType*/,
+                                                           double /*height*/)
+{
+    return {};
+}
+
+QString CZtConverterKVAPIObjectCPP::WriteSetCellTextStyle(const QString& /*variable*/, std::int32_t /*cellType*/,
+                                                          const QString& /*style*/)
+{
+    return {};
+}
+
+QString CZtConverterKVAPIObjectCPP::WriteSetCellMargin(const QString& /*variable*/, const QString& /*word*/,
+                                                       std::int32_t /*cellType*/, double /*margin*/)
+{
+    return {};
+}
+
+QString CZtConverterKVAPIObjectCPP::WriteSetBordersColor(const QString& /*variable*/, std::int32_t /*cellType*/,
+                                                         std::int32_t /*lineType*/, const OdCmColor& /*color*/)
+{
+    return {};
+}

@@ -26,4 +26,11 @@ private:
 
     // Flags of the automation interfaces.
     [[nodiscard]] QString FlagWord(bool flag) const override;
+
+    // A diameter or radius, which the word tells.
+    [[nodiscard]] QString OnCurve(const char* kind, const QString& variable, const MeasuredCurve& curve,
+                                  const OdGePoint3d& chordPoint, const QString& text);
+
+    // A point as an array under the number.
+    [[nodiscard]] static QString PointArray(kv::Indent indent, std::int32_t number, const OdGePoint3d& point);
 };

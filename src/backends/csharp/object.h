@@ -15,4 +15,8 @@ public:
 private:
     // The head of all backgrounds of views.
     [[nodiscard]] QString BackgroundHead(std::int32_t number, const QString& variable) const;
+
+    // A diameter or radius, which the word tells.
+    [[nodiscard]] QString OnCurve(const char* kind, const QString& variable, const MeasuredCurve& curve,
+                                  const OdGePoint3d& chordPoint, const QString& text);
 };

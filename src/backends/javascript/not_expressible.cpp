@@ -78,3 +78,9 @@ QString CZtConverterKVAPIObjectJavaScript::WriteSetVertex2D(const QString& /*var
 {
     return {};
 }
+
+QString CZtConverterKVAPIObjectJavaScript::WriteSetCellTextStyle(const QString& /*variable*/, std::int32_t /*cellType*/,
+                                                                 const QString& /*style*/)
+{
+    return {};
+}

@@ -28,4 +28,8 @@ private:
                                           const QString& setter, double value, std::int32_t index);
     // The head of the backgrounds of views.
     [[nodiscard]] QString BackgroundHead(std::int32_t number, const QString& variable);
+
+    // A diameter or radius, which the word tells.
+    [[nodiscard]] QString OnCurve(const char* kind, const QString& variable, const MeasuredCurve& curve,
+                                  const OdGePoint3d& chordPoint, const QString& text);
 };

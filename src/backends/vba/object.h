@@ -16,4 +16,8 @@ private:
     // Numbers the locals of WriteSetPointProperty, which can be declared once in
     // the procedure.
     std::int32_t pointProperties_ = 0;
+
+    // A diameter or radius, which the word tells.
+    [[nodiscard]] QString OnCurve(const char* kind, const QString& variable, const MeasuredCurve& curve,
+                                  const OdGePoint3d& chordPoint, const QString& text);
 };

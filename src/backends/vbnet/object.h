@@ -11,4 +11,9 @@ public:
 #define OPERATION(result, name, parameters) [[nodiscard]] result name parameters override;
 #include "objects/object_operations.def"
 #undef OPERATION
+
+private:
+    // A diameter or radius, which the word tells.
+    [[nodiscard]] QString OnCurve(const char* kind, const QString& variable, const MeasuredCurve& curve,
+                                  const OdGePoint3d& chordPoint, const QString& text);
 };

@@ -7,6 +7,20 @@
 class KVHOST_API OdDbDimension : public OdDbEntity
 {
     ODRX_DECLARE_MEMBERS(OdDbDimension)
+
+    // The object that a reference of the dimension's association leads to, 0 the first and 2 the second; null when the
+    // dimension isn't associated with one.
+    [[nodiscard]] virtual OdDbObjectId associatedObject(int reference) const = 0;
+
+    // What moves out when text and arrows don't fit: 0 both, 1 the arrows, 2 the text, 3 whatever fits best, 4 neither.
+    [[nodiscard]] virtual int dimfit() const = 0;
+
+    // True when the text is aligned with the dimension line, inside and outside the extension lines.
+    [[nodiscard]] virtual bool textInsideAlign() const = 0;
+    [[nodiscard]] virtual bool textOutsideAlign() const = 0;
+
+    // The length of extension lines of fixed length in drawing units.
+    [[nodiscard]] virtual double getExtLineFixLen() const = 0;
 };
 
 class KVHOST_API OdDbAlignedDimension : public OdDbDimension
@@ -93,4 +107,9 @@ class KVHOST_API OdDbRadialDimension : public OdDbDimension
 class KVHOST_API OdDbRadialDimensionLarge : public OdDbDimension
 {
     ODRX_DECLARE_MEMBERS(OdDbRadialDimensionLarge)
+
+    // The center that the jogged line pretends, the point of its jog and the point on the curve.
+    [[nodiscard]] virtual OdGePoint3d overrideCenter() const = 0;
+    [[nodiscard]] virtual OdGePoint3d jogPoint() const = 0;
+    [[nodiscard]] virtual OdGePoint3d chordPoint() const = 0;
 };

@@ -44,3 +44,8 @@ ConversionObserver* CurrentObserver()
 {
     return registeredHost != nullptr ? registeredHost->Observer() : nullptr;
 }
+
+CZtString CZtUtils::GetStringForUnitScalingFactor(std::int32_t units)
+{
+    return GetZtSystemServices()->StringForUnitScalingFactor(units);
+}

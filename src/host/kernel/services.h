@@ -4,6 +4,7 @@
 #include "host/db/database.h"
 #include "host/export.h"
 #include "host/kernel/conversion_observer.h"
+#include "host/kernel/zt_string.h"
 
 #include <cstdint>
 
@@ -15,11 +16,11 @@ class KVHOST_API CZtDatabase : public OdDbDatabase
     // The group of a name in the drawing's dictionary of groups; null when there is none.
     [[nodiscard]] virtual OdDbObjectId getGroupId(const OdString& name) = 0;
 
-    // The values that fillet and chamfer use: lengths in drawing units, the angle in radians.
     // The thickness of new entities, in drawing units, and the number of the units in which blocks are inserted.
     [[nodiscard]] virtual double getThickness() const = 0;
     [[nodiscard]] virtual std::int16_t getInsUnits() const = 0;
 
+    // The values that fillet and chamfer use: lengths in drawing units, the angle in radians.
     [[nodiscard]] virtual double filletRadius() const = 0;
     [[nodiscard]] virtual double chamferFirstDistance() const = 0;
     [[nodiscard]] virtual double chamferSecondDistance() const = 0;
@@ -67,6 +68,9 @@ public:
     CZtSystemServices& operator=(const CZtSystemServices&) = delete;
 
     [[nodiscard]] virtual const CZtSystemSettings& Settings() const = 0;
+
+    // The user's word for the units in which blocks are inserted, 1 "Inches" to 20 "Parsecs"; empty for other numbers.
+    [[nodiscard]] virtual CZtString StringForUnitScalingFactor(std::int32_t units) const = 0;
 };
 
 // What a host offers to the module. It registers one object of this kind before it loads the module.
@@ -93,6 +97,15 @@ KVHOST_API void RegisterHost(CZtHost* host) noexcept;
 
 // The services of the registered host. A host must be registered.
 [[nodiscard]] KVHOST_API CZtSystemServices* GetZtSystemServices();
+
+class KVHOST_API CZtUtils
+{
+public:
+    CZtUtils() = delete;
+
+    // The registered host's word for the units. A host must be registered.
+    [[nodiscard]] static CZtString GetStringForUnitScalingFactor(std::int32_t units);
+};
 
 // The document at hand; null when there is none or no host is registered.
 [[nodiscard]] KVHOST_API CZtDocument* ACTIVE_DOCUMENT();

@@ -46,7 +46,7 @@ function replayLibrary(record)
         if (checks[type])
             return checks[type](value);
         if (type in API.enumerations)
-            return API.enumerations[type].includes(value);
+            return API.enumerations[type].includes(value) || value in API.enumerations[type];
         if (type === "objects")
             return all(entry => fits(entry, "object"))(value);
         if (value === null)
@@ -79,20 +79,21 @@ function replayLibrary(record)
             return [[1, 2, 3, 4].map(() => make(ANY)), null];
         default:
             if (type in API.enumerations)
-                return [undefined, null];
+                return [API.enumerations[type][0], null];
             const made = make(type === "object" ? ANY : type);
             return [made, {out: made.replayed.number}];
         }
     }
 
-    // Several results are an array; three numbers are a point. What is created comes with the outcome of its creation.
+    // Several results are an array; two or three numbers are a point. Outcomes of calls are dropped; what is created
+    // comes in an object.
     function result(values, member)
     {
-        const wanted = values.filter(([type]) => !(type in API.enumerations));
+        const wanted = values.filter(([type]) => !/(Result|Error)_e$/.test(type));
         if (wanted.length > 1 && wanted[wanted.length - 1][0] === "bool")
             wanted.pop();
-        if (wanted.length === 3 && wanted.every(([type]) => type === "real"))
-            return {X: wanted[0][1], Y: wanted[1][1], Z: wanted[2][1]};
+        if ([2, 3].includes(wanted.length) && wanted.every(([type]) => type === "real"))
+            return Object.fromEntries(wanted.map(([, value], axis) => ["XYZ"[axis], value]));
         if (member.arguments.some(argument => argument.type === "kvCreateObjectResult_e"))
             return {[wanted[0][0]]: wanted[0][1]};
         return wanted.length > 1 ? wanted.map(([, value]) => value) : wanted.length ? wanted[0][1] : undefined;
