@@ -14,7 +14,7 @@ namespace kv
 {
 class LoadedModule;
 class Session;
-}
+} // namespace kv
 
 namespace kv::cli
 {

@@ -47,6 +47,7 @@ struct RunOptions
 
 // Reads the command line. Gives the options of the command, or the exit status when nothing is left to do because help,
 // the version or a fault of usage was printed. Throws Failure for a name that no macro can have.
-[[nodiscard]] std::variant<ConvertOptions, CheckOptions, RunOptions, int> ParseOptions(int argc, const char* const* argv);
+[[nodiscard]] std::variant<ConvertOptions, CheckOptions, RunOptions, int> ParseOptions(int argc,
+                                                                                       const char* const* argv);
 
 } // namespace kv::cli

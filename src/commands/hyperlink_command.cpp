@@ -9,8 +9,8 @@ using namespace kv;
 namespace
 {
 
-constexpr const char* mainContext = "[GROUP MAIN] Command Option: Upper- and Lowercase letters are relevant.";
-constexpr const char* insertContext = "[GROUP INS] Command Option: Upper- and Lowercase letters are relevant.";
+constexpr const char* linkOptions = "[GROUP MAIN] Command Option: Upper- and Lowercase letters are relevant.";
+constexpr const char* anchorOptions = "[GROUP INS] Command Option: Upper- and Lowercase letters are relevant.";
 
 // An object of the selection with its hyperlink.
 struct Linked
@@ -34,7 +34,7 @@ public:
     ResultCode Main()
     {
         CZtPrompt prompt;
-        prompt.keywords = Keywords(mainContext, {{"Insert", "_Insert"}, {"Remove", "_Remove"}});
+        prompt.keywords = Keywords(linkOptions, {{"Insert", "_Insert"}, {"Remove", "_Remove"}});
         CZtString keyword;
         const ResultCode answered = user_.GetKeyword(prompt, keyword);
         return answered != ResultNormal        ? answered
@@ -48,15 +48,14 @@ private:
     {
         CZtPrompt prompt;
         prompt.text = "Specify anchor option";
-        prompt.keywords =
-            Keywords(insertContext, {{"Area", "_Area"}, {"Entity", "_Entity"}, {"Object", "_Object"}});
+        prompt.keywords = Keywords(anchorOptions, {{"Area", "_Area"}, {"Entity", "_Entity"}, {"Object", "_Object"}});
         prompt.defaultKeyword = "_Entity";
         CZtString keyword;
         const ResultCode answered = user_.GetKeyword(prompt, keyword);
-        return answered != ResultNormal                                               ? answered
-               : IsKeyword(keyword, "_AREA")                                          ? InsertArea()
+        return answered != ResultNormal                                         ? answered
+               : IsKeyword(keyword, "_AREA")                                    ? InsertArea()
                : IsKeyword(keyword, "_ENTITY") || IsKeyword(keyword, "_OBJECT") ? InsertOnEntities()
-                                                                                      : ResultNormal;
+                                                                                : ResultNormal;
     }
 
     ResultCode InsertArea(LinkForm form = LinkForm::Whole)

@@ -25,9 +25,14 @@ OdArray<OdResBufPtr> Chain(const Hyperlink& link)
 {
     const QString open = QStringLiteral("{");
     const QString close = QStringLiteral("}");
-    return {Item(ApplicationCode, application), Item(TextCode, link.address), Item(BraceCode, open),
-            Item(TextCode, link.description),   Item(TextCode, link.place),   Item(BraceCode, open),
-            Item(BraceCode, close),             Item(BraceCode, close)};
+    return {Item(ApplicationCode, application),
+            Item(TextCode, link.address),
+            Item(BraceCode, open),
+            Item(TextCode, link.description),
+            Item(TextCode, link.place),
+            Item(BraceCode, open),
+            Item(BraceCode, close),
+            Item(BraceCode, close)};
 }
 
 } // namespace

@@ -13,8 +13,8 @@ using namespace kv;
 namespace
 {
 
-constexpr const char* mainContext = "Command Option: Upper- and Lowercase letters are relevant.";
-constexpr const char* yesNoContext = "[GROUPYESNO] Command Option: Upper- and Lowercase letters are relevant.";
+constexpr const char* styleOptions = "Command Option: Upper- and Lowercase letters are relevant.";
+constexpr const char* yesNoOptions = "[GROUPYESNO] Command Option: Upper- and Lowercase letters are relevant.";
 const QString notFoundInFile = QStringLiteral("LineStyle \"%1\" not found in definition file.");
 
 QString Blanks(int count)
@@ -37,11 +37,11 @@ public:
         {
             user_.Print(QStringLiteral("Active LineStyle: %1").arg(ActiveName()));
             CZtPrompt prompt;
-            prompt.keywords = Keywords(mainContext, {{"? to list,?", "_?,?"},
-                                                     {"Activate", "_Activate"},
-                                                     {"Create", "_Create"},
-                                                     {"Load", "_Load"},
-                                                     {"Set", "_Set"}});
+            prompt.keywords = Keywords(styleOptions, {{"? to list,?", "_?,?"},
+                                                      {"Activate", "_Activate"},
+                                                      {"Create", "_Create"},
+                                                      {"Load", "_Load"},
+                                                      {"Set", "_Set"}});
             CZtString keyword;
             const ResultCode answered = user_.GetKeyword(prompt, keyword);
             if (answered != ResultNormal || keyword.isEmpty())
@@ -58,11 +58,11 @@ public:
 private:
     ResultCode Act(const CZtString& keyword)
     {
-        return IsKeyword(keyword, "_?")                                                 ? List()
-               : IsKeyword(keyword, "_CREATE")                                          ? Create()
-               : IsKeyword(keyword, "_LOAD")                                            ? Load()
+        return IsKeyword(keyword, "_?")                                        ? List()
+               : IsKeyword(keyword, "_CREATE")                                 ? Create()
+               : IsKeyword(keyword, "_LOAD")                                   ? Load()
                : IsKeyword(keyword, "_SET") || IsKeyword(keyword, "_ACTIVATE") ? Activate()
-                                                                                        : ResultNormal;
+                                                                               : ResultNormal;
     }
 
     QString ActiveName()
@@ -99,14 +99,14 @@ private:
         ResultCode answered = ResultNormal;
         if (fileDialog_)
         {
-            answered = user_.GetFile(
-                {title, "lin", "style definition file", "LineStyle (*.lin)", "&*.lin&&", create}, answer);
+            answered =
+                user_.GetFile({title, "lin", "style definition file", "LineStyle (*.lin)", "&*.lin&&", create}, answer);
         }
         else
         {
             CZtPrompt prompt;
             prompt.text = title;
-            prompt.keywords = Keywords(mainContext, {{". for none,.", ". for none,."}});
+            prompt.keywords = Keywords(styleOptions, {{". for none,.", ". for none,."}});
             answered = user_.GetString(prompt, answer);
         }
         if (answered != ResultNormal || answer.isEmpty())
@@ -179,7 +179,7 @@ private:
         }
         if (told < file->faults.size())
         {
-            user_.Print(QStringLiteral("%1: %2 more faults").arg(path).arg(file->faults.size() - told));
+            user_.Print(path + QStringLiteral(": %1 more faults").arg(file->faults.size() - told));
         }
     }
 
@@ -226,7 +226,8 @@ private:
         {
             return answered;
         }
-        user_.Print("Format: positive decimal values for dashes, negative decimal values for spaces, and a 0 for dots...");
+        user_.Print(
+            "Format: positive decimal values for dashes, negative decimal values for spaces, and a 0 for dots...");
         CZtString descriptors;
         answered = Ask("Specify pattern descriptors", descriptors);
         if (answered != ResultNormal)
@@ -296,8 +297,9 @@ private:
         for (const QString& part : names.split(QLatin1Char(',')))
         {
             const QString name = part.trimmed();
-            const auto found = std::ranges::find_if(definitions, [&](const CZtLinetypeDefinition& definition)
-                                                    { return definition.name.compare(name, Qt::CaseInsensitive) == 0; });
+            const auto found =
+                std::ranges::find_if(definitions, [&](const CZtLinetypeDefinition& definition)
+                                     { return definition.name.compare(name, Qt::CaseInsensitive) == 0; });
             if (found != definitions.end())
             {
                 chosen.push_back(*found);
@@ -319,7 +321,7 @@ private:
         }
         CZtPrompt prompt;
         prompt.text = QStringLiteral("LineStyle \"%1\" is already loaded. Reload it?").arg(definition.name);
-        prompt.keywords = Keywords(yesNoContext, {{"Yes", "_Yes"}, {"No", "_No"}});
+        prompt.keywords = Keywords(yesNoOptions, {{"Yes", "_Yes"}, {"No", "_No"}});
         CZtString keyword;
         const ResultCode answered = user_.GetKeyword(prompt, keyword);
         if (answered == ResultNormal && IsKeyword(keyword, "_YES"))
@@ -333,10 +335,9 @@ private:
     ResultCode Activate()
     {
         OdDbObjectId chosen;
-        const ResultCode answered =
-            user_.GetLinetype({"Specify LineStyle", "Specify LineStyle(s)", notFoundInFile,
-                               "You can use the \"Load\" option to load it from another file."},
-                              chosen);
+        const ResultCode answered = user_.GetLinetype({"Specify LineStyle", "Specify LineStyle(s)", notFoundInFile,
+                                                       "You can use the \"Load\" option to load it from another file."},
+                                                      chosen);
         if (answered == ResultNormal && !chosen.isNull())
         {
             drawing_.setCurrentLinetype(chosen);

@@ -89,12 +89,12 @@ private:
         {
             return;
         }
-        auto pattern = line.startsWith(QLatin1String("A,"), Qt::CaseInsensitive)
-                           ? ParsePattern(line.mid(2).toString())
-                           : std::nullopt;
+        auto pattern = line.startsWith(QLatin1String("A,"), Qt::CaseInsensitive) ? ParsePattern(line.mid(2).toString())
+                                                                                 : std::nullopt;
         if (!pattern)
         {
-            Fault(line_, QStringLiteral("the pattern of %1 isn't \"A\" and numbers, separated by commas").arg(open_.name));
+            Fault(line_,
+                  QStringLiteral("the pattern of %1 isn't \"A\" and numbers, separated by commas").arg(open_.name));
             return;
         }
         open_.pattern = std::move(*pattern);

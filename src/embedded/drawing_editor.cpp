@@ -117,11 +117,9 @@ OdDbObjectId DrawingEditor::makeLayer(const OdString& name)
 OdDbObjectId DrawingEditor::appendClosedPolyline(const std::vector<OdGePoint3d>& vertices, const OdDbObjectId& layer)
 {
     const OdRxClass* objectClass = OdDbPolyline::desc();
-    const OdDbObjectId id = drawing_.append(objectClass, NewValues(objectClass)
-                                                             .with("vertices", vertices)
-                                                             .with("closed", true)
-                                                             .with("layer", layer.getHandle())
-                                                             .take());
+    const OdDbObjectId id = drawing_.append(
+        objectClass,
+        NewValues(objectClass).with("vertices", vertices).with("closed", true).with("layer", layer.getHandle()).take());
     appendToCurrentBlock(id);
     return id;
 }
@@ -130,16 +128,17 @@ OdDbObjectId DrawingEditor::appendClosedPolyline(const std::vector<OdGePoint3d>&
 void DrawingEditor::appendToCurrentBlock(const OdDbObjectId& entity)
 {
     const auto layout = OdSmartPtr<OdDbLayout>::cast(drawing_.currentLayoutId().openObject());
-    const QString name = layout && layout->modelType() ? QStringLiteral("*Model_Space") : QStringLiteral("*Paper_Space");
+    const QString name =
+        layout && layout->modelType() ? QStringLiteral("*Model_Space") : QStringLiteral("*Paper_Space");
     const OdRxClass* objectClass = OdDbBlockTableRecord::desc();
     const auto& described = drawing_.described();
-    const auto block = std::find_if(described.begin(), described.end(),
-                                    [&](OdDbHandle handle)
-                                    {
-                                        return drawing_.classOf(handle) == objectClass &&
-                                               drawing_.valuesOf(handle)->get<QString>("name").compare(
-                                                   name, Qt::CaseInsensitive) == 0;
-                                    });
+    const auto block =
+        std::find_if(described.begin(), described.end(),
+                     [&](OdDbHandle handle)
+                     {
+                         return drawing_.classOf(handle) == objectClass &&
+                                drawing_.valuesOf(handle)->get<QString>("name").compare(name, Qt::CaseInsensitive) == 0;
+                     });
     if (block != described.end())
     {
         ObjectValues& values = *drawing_.change(*block);
@@ -158,9 +157,9 @@ void DrawingEditor::setXData(const OdDbObjectId& object, const OdArray<OdResBufP
         throw OdError(eNullObjectPointer);
     }
     ExtendedData data = values->get<ExtendedData>("xdata");
-    const auto own =
-        std::find_if(data.begin(), data.end(), [&](const ApplicationData& other)
-                     { return other.application.compare(application, Qt::CaseInsensitive) == 0; });
+    const auto own = std::find_if(data.begin(), data.end(),
+                                  [&](const ApplicationData& other)
+                                  { return other.application.compare(application, Qt::CaseInsensitive) == 0; });
     ApplicationData changed{application, {chain.begin(), chain.end()}};
     if (own != data.end() && chain.size() > 1)
     {

@@ -34,8 +34,9 @@ void includeArc(std::optional<Extents>& extents, const ObjectValues& values)
     const double start = values.get<double>("startAngle");
     double sweep = std::fmod(values.get<double>("endAngle") - start, 4 * quarterTurn);
     sweep += sweep <= 0 ? 4 * quarterTurn : 0;
-    const auto includeAt = [&](double angle)
-    { includeBox(extents, {center.x + radius * std::cos(angle), center.y + radius * std::sin(angle), 0}, 0, 0); };
+    const auto includeAt = [&](double angle) {
+        includeBox(extents, {center.x + radius * std::cos(angle), center.y + radius * std::sin(angle), 0}, 0, 0);
+    };
     includeAt(start);
     includeAt(start + sweep);
     constexpr int quarters = 4;

@@ -24,7 +24,7 @@ struct Extents
     double top;
 };
 
-// The rectangle around what the entity's values tell of its shape; for texts, images and the like around the point where
-// they stand. Nothing for what has no end and for entities without a shape of their own.
+// The rectangle around what the entity's values tell of its shape; for texts, images and the like around the point
+// where they stand. Nothing for what has no end and for entities without a shape of their own.
 [[nodiscard]] std::optional<Extents> ExtentsOf(const OdRxClass* objectClass, const ObjectValues& values);
 } // namespace kv

@@ -20,8 +20,8 @@ QByteArray textOf(Drawing& drawing, OdDbHandle handle)
 bool isCutOff(const QByteArray& line)
 {
     simdjson::dom::parser parser;
-    const auto error = parser.parse(simdjson::padded_string(line.constData(), static_cast<std::size_t>(line.size())))
-                           .error();
+    const auto error =
+        parser.parse(simdjson::padded_string(line.constData(), static_cast<std::size_t>(line.size()))).error();
     return error != simdjson::SUCCESS && error != simdjson::NUMBER_ERROR && error != simdjson::EMPTY;
 }
 } // namespace

@@ -24,7 +24,8 @@ struct Form
     {
         const auto is = [&](const QString& word) { return word.compare(answer, Qt::CaseInsensitive) == 0; };
         return is(shown) || is(typed) || (!shortcut.isEmpty() && is(shortcut)) ||
-               (!shortcut.isEmpty() && answer.size() >= shortcut.size() && typed.startsWith(answer, Qt::CaseInsensitive));
+               (!shortcut.isEmpty() && answer.size() >= shortcut.size() &&
+                typed.startsWith(answer, Qt::CaseInsensitive));
     }
 
     QString shown;

@@ -55,9 +55,9 @@ public:
     [[nodiscard]] ResultCode Convert(CZtConverterModule& module, const QString& outputPath, std::uint32_t language,
                                      std::optional<std::int32_t> recordingMode = {});
 
-    // Registers this host and runs a command on the drawing; without answers there is no user to ask. Gives the command's
-    // code; exceptions of the host's kind (OdError) pass through. Only a command that gives ResultNormal changes the
-    // drawing.
+    // Registers this host and runs a command on the drawing; without answers there is no user to ask. Gives the
+    // command's code; exceptions of the host's kind (OdError) pass through. Only a command that gives ResultNormal
+    // changes the drawing.
     [[nodiscard]] ResultCode RunCommand(CZtCommand& command, AnswerSource* answers);
 
     // The text that the session was read from, with what commands changed in the drawing.

@@ -47,6 +47,7 @@ public:
     {
         prompt_ = prompt.toStdWString();
         int length = 0;
+        el_wset(editor_.get(), EL_PREP_TERM, 1); // ahead of the prompt: whoever sees it may press any key
         const wchar_t* line = el_wgets(editor_.get(), &length);
         if (line == nullptr || length == 0)
         {

@@ -38,9 +38,9 @@ private:
 struct CommandRun
 {
     ResultCode result = 0;
-    std::string shown;    // prompts with their answers, and messages
-    std::string added;    // the lines that saving adds behind the journal's
-    std::string saved;    // the whole saved journal
+    std::string shown; // prompts with their answers, and messages
+    std::string added; // the lines that saving adds behind the journal's
+    std::string saved; // the whole saved journal
     std::size_t asked = 0;
 };
 

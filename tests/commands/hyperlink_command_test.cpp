@@ -21,16 +21,17 @@ std::string Plain(const std::string& handle)
     return R"({"object":{"class":"AcDbLine","handle":")" + handle + "\",\"endPoint\":[1,1,0]}}\n";
 }
 
-CommandRun Run(const std::string& lines, std::vector<std::string> answers)
+CommandRun Link(const std::string& lines, std::vector<std::string> answers)
 {
     return RunOn<CZtCommandHyperlink>(lines, std::move(answers));
 }
 
-// The handles that are left with a hyperlink after the answer to which of the links "a" (1), "b" (2), "1" (3) to remove.
+// The handles that are left with a hyperlink after the answer to which of the links "a" (1), "b" (2), "1" (3) to
+// remove.
 std::string LeftAfter(const std::string& answer, const std::string& message = "3 hyperlinks deleted.")
 {
-    const CommandRun run =
-        Run(Linked("1", "a", "first") + Linked("2", "b") + Linked("3", "9") + Plain("4"), {"Remove", "ALL", "", answer});
+    const CommandRun run = Link(Linked("1", "a", "first") + Linked("2", "b") + Linked("3", "9") + Plain("4"),
+                                {"Remove", "ALL", "", answer});
     EXPECT_EQ(run.result, 5100);
     EXPECT_EQ(run.asked, 4U) << "no answer is refused";
     EXPECT_NE(run.shown.find("\n1 a (first)\n2 b ()\n3 9 ()\nSpecify number, hyperlink, or * for all: " + answer +
@@ -60,29 +61,29 @@ TEST(HyperlinkCommand, RemovesByIndexFromZero)
     EXPECT_EQ(LeftAfter("*"), "");
 
     const auto two = Linked("1", "a") + Linked("2", "b");
-    EXPECT_EQ(Run(two, {"R", "1 2", "", "2"}).added, "");
-    EXPECT_NE(Run(two, {"R", "1 2", "", "1"}).saved.find(Linked("1", "a") + Plain("2")), std::string::npos);
+    EXPECT_EQ(Link(two, {"R", "1 2", "", "2"}).added, "");
+    EXPECT_NE(Link(two, {"R", "1 2", "", "1"}).saved.find(Linked("1", "a") + Plain("2")), std::string::npos);
 }
 
 TEST(HyperlinkCommand, RemovesASingleHyperlinkUnasked)
 {
-    const CommandRun run = Run(Linked("1", "a") + Plain("2"), {"_Remove", "1,2", ""});
+    const CommandRun run = Link(Linked("1", "a") + Plain("2"), {"_Remove", "1,2", ""});
     EXPECT_EQ(run.shown, "[Insert/Remove]: _Remove\nSelect entities or [Window/ALL]: 1,2\n2 found, 2 total\n"
                          "Select entities or [Window/ALL]: \n1 hyperlink deleted.\n");
     EXPECT_EQ(run.saved, Head + "\n" + Plain("1") + Plain("2"));
-    const CommandRun none = Run(Plain("2"), {"_Remove", "2", ""});
+    const CommandRun none = Link(Plain("2"), {"_Remove", "2", ""});
     EXPECT_EQ(none.result, 5100);
     EXPECT_EQ(none.shown.find("deleted"), std::string::npos);
     // Data of other applications stays.
     const std::string other = R"({"object":{"class":"AcDbLine","handle":"1","xdata":{"X":["x"],"PE_URL":["a"]}}})"
                               "\n";
-    EXPECT_EQ(Run(other, {"r", "1", ""}).saved,
+    EXPECT_EQ(Link(other, {"r", "1", ""}).saved,
               Head + "\n" + R"({"object":{"class":"AcDbLine","handle":"1","xdata":{"X":["x"]}}})" + "\n");
 }
 
 TEST(HyperlinkCommand, AttachesTheChain)
 {
-    const CommandRun run = Run(Plain("1"), {"Insert", "", "1", "", "a \"b\"", "place", "text"});
+    const CommandRun run = Link(Plain("1"), {"Insert", "", "1", "", "a \"b\"", "place", "text"});
     EXPECT_EQ(run.result, 5100);
     EXPECT_EQ(run.shown, "[Insert/Remove]: Insert\nSpecify anchor option [Area/Entity/Object] <Entity>: \n"
                          "Select entities or [Window/ALL]: 1\n1 found, 1 total\nSelect entities or [Window/ALL]: \n"
@@ -95,16 +96,17 @@ TEST(HyperlinkCommand, AttachesTheChain)
                   R"({"code":1002,"value":"{"},"text","place",{"code":1002,"value":"{"},{"code":1002,"value":"}"},)"
                   R"({"code":1002,"value":"}"}]}}})"
                   "\n");
-    EXPECT_EQ(Run(Linked("1", "old", "d") + Plain("2"), {"I", "o", "1 2", "", "new", "", "d"}).saved,
+    EXPECT_EQ(Link(Linked("1", "old", "d") + Plain("2"), {"I", "o", "1 2", "", "new", "", "d"}).saved,
               Head + "\n" + Linked("1", "new", "d") + Linked("2", "new", "d"));
-    EXPECT_EQ(Run(Plain("1"), {"I", "E", ""}).added, "") << "nothing selected";
-    EXPECT_EQ(Run(Plain("1"), {""}).result, 5100);
+    EXPECT_EQ(Link(Plain("1"), {"I", "E", ""}).added, "") << "nothing selected";
+    EXPECT_EQ(Link(Plain("1"), {""}).result, 5100);
 }
 
 TEST(HyperlinkCommand, AttachesToAnAreaOnItsOwnLayer)
 {
-    const std::string model = R"({"object":{"class":"AcDbBlockTableRecord","handle":"F","name":"*MODEL_SPACE","isLayout":true}})"
-                              "\n";
+    const std::string model =
+        R"({"object":{"class":"AcDbBlockTableRecord","handle":"F","name":"*MODEL_SPACE","isLayout":true}})"
+        "\n";
     const std::string layer = R"({"object":{"class":"AcDbLayerTableRecord","handle":"10","name":"URLLAYER"}})"
                               "\n";
     const std::string rectangle =
@@ -116,8 +118,8 @@ TEST(HyperlinkCommand, AttachesToAnAreaOnItsOwnLayer)
     const std::string listed =
         R"({"object":{"class":"AcDbBlockTableRecord","handle":"F","name":"*MODEL_SPACE","isLayout":true,"entities":["11"]}})"
         "\n";
-    EXPECT_EQ(Run(model, answers).saved, Head + "\n" + listed + layer + rectangle);
-    const CommandRun withLayer = Run(layer, answers);
+    EXPECT_EQ(Link(model, answers).saved, Head + "\n" + listed + layer + rectangle);
+    const CommandRun withLayer = Link(layer, answers);
     EXPECT_EQ(withLayer.added, rectangle) << "the layer is there";
     EXPECT_NE(withLayer.shown.find("Specify start corner: 4,1,2\nSpecify opposite corner: @-2.5,-.5\n"),
               std::string::npos);
@@ -136,7 +138,7 @@ TEST(HyperlinkCommand, CancelsAtEveryPrompt)
 
 TEST(HyperlinkCommand, AsksAgainForWhatIsNoAnswer)
 {
-    const CommandRun run = Run(Plain("1"), {"x", "I", "a", "1", "1,x", "1,1e999", "", "0,0", "1,2", "u", "p", "d"});
+    const CommandRun run = Link(Plain("1"), {"x", "I", "a", "1", "1,x", "1,1e999", "", "0,0", "1,2", "u", "p", "d"});
     EXPECT_EQ(run.result, 5100) << run.shown;
     EXPECT_NE(run.shown.find("x\nInvalid option keyword.\n"), std::string::npos);
     EXPECT_NE(run.shown.find("Specify start corner: 1,x\nInvalid point.\n"), std::string::npos);
@@ -144,7 +146,7 @@ TEST(HyperlinkCommand, AsksAgainForWhatIsNoAnswer)
                                "\n";
     const std::string unknown = R"({"added":{"class":"AcDbThing","handle":"6","properties":[]}})"
                                 "\n";
-    const CommandRun selection = Run(Plain("1") + erased + unknown, {"R", "5 6 7 g 1 1", "ALL", ""});
+    const CommandRun selection = Link(Plain("1") + erased + unknown, {"R", "5 6 7 g 1 1", "ALL", ""});
     for (const char* handle : {"5", "6", "7", "g"})
     {
         EXPECT_NE(selection.shown.find("No entity has the handle " + std::string(handle) + ".\n"), std::string::npos);
@@ -158,7 +160,7 @@ TEST(HyperlinkCommand, AsksAgainForWhatIsNoAnswer)
 bool IsInWindow(const std::string& entity, const char* corner, const char* opposite)
 {
     const CommandRun run =
-        Run("{\"object\":{\"handle\":\"1\",\"class\":\"" + entity + "}}\n", {"R", "W", corner, opposite, ""});
+        Link("{\"object\":{\"handle\":\"1\",\"class\":\"" + entity + "}}\n", {"R", "W", corner, opposite, ""});
     EXPECT_EQ(run.result, 5100);
     return run.shown.find("\n1 found") != std::string::npos;
 }
@@ -186,7 +188,7 @@ TEST(HyperlinkCommand, FindsByAWindowWhatLiesInside)
     EXPECT_FALSE(IsInWindow("AcDbRegion\"", "-9,-9", "9,9"));
     const std::string inBlock = R"({"object":{"class":"AcDbBlockTableRecord","handle":"2","entities":["1"]}})"
                                 "\n";
-    EXPECT_NE(Run(inBlock + Plain("1"), {"R", "ALL", ""}).shown.find("0 found, 0 total"), std::string::npos);
+    EXPECT_NE(Link(inBlock + Plain("1"), {"R", "ALL", ""}).shown.find("0 found, 0 total"), std::string::npos);
 }
 
 TEST(HyperlinkCommand, ReachesTheMacroOfABlockDefinition)
@@ -196,7 +198,7 @@ TEST(HyperlinkCommand, ReachesTheMacroOfABlockDefinition)
 {"added":{"class":"AcDbBlockTableRecord","handle":"2F","properties":[]}}
 {"end":"BLOCK"}
 )";
-    const CommandRun run = Run(block, {"Insert", "Object", "2F", "", "http://a.b/c", "#View", "About"});
+    const CommandRun run = Link(block, {"Insert", "Object", "2F", "", "http://a.b/c", "#View", "About"});
     constexpr std::uint32_t cpp = 0;
     EXPECT_EQ(ConversionRun(QByteArray::fromStdString(Head + "\n" + block), cpp).Body().indexOf("HyperLink"), -1);
     const std::string body = ConversionRun(QByteArray::fromStdString(run.saved), cpp).Body().toStdString();

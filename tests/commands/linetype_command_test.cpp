@@ -72,7 +72,7 @@ TEST_F(LinetypeCommand, TellsTheActiveStyle)
 TEST_F(LinetypeCommand, CancelsAtEveryPrompt)
 {
     const std::string file = folder_.filePath(QStringLiteral("new.lin")).toStdString();
-    CancelEverywhere<CZtCommandLinetype>(Center, {"Load", "*", path_, "Yes", "", ""});
+    CancelEverywhere<CZtCommandLinetype>(Center, {"Load", "*", path_, "Yes", ""});
     CancelEverywhere<CZtCommandLinetype>(Center, {"Load", "*", path_, "No", "Set", "dashed", ""});
     CancelEverywhere<CZtCommandLinetype>(Center, {"?", path_, ""});
     CancelEverywhere<CZtCommandLinetype>(Center, {"Create", "N", file, "d", "x", ""});
@@ -121,8 +121,7 @@ TEST_F(LinetypeCommand, CreatesOnlyWhatIsAPattern)
                          "New LineStyle definition saved to file.\nActive LineStyle: ByLayer\n" +
                          Main + "\n");
     create("1,-1");
-    EXPECT_EQ(contents(file + ".lin"),
-              "\r\n*N,text\r\nA,1,2,3,4,5,6,7,8,9,10,11,12\r\n\r\n*N,text\r\nA,1,-1\r\n");
+    EXPECT_EQ(contents(file + ".lin"), "\r\n*N,text\r\nA,1,2,3,4,5,6,7,8,9,10,11,12\r\n\r\n*N,text\r\nA,1,-1\r\n");
     EXPECT_EQ(run({"Create", "N", folder_.path().toStdString(), "text", "1,-1"}).shown.find("saved"),
               std::string::npos);
     EXPECT_EQ(run({"Create", ""}).asked, 3U) << "an empty name ends the round";
@@ -142,11 +141,12 @@ TEST_F(LinetypeCommand, LoadsAndReloads)
                                   "_yes\nLineStyle \"CENTER\" reloaded.\n"),
               std::string::npos)
         << reloaded.shown;
-    EXPECT_EQ(reloaded.saved,
-              Head + "\n" +
-                  R"({"object":{"class":"AcDbLinetypeTableRecord","handle":"B0","name":"Center","description":"Center new","pattern":[2,-1]}})"
-                  "\n" +
-                  dashed);
+    EXPECT_EQ(
+        reloaded.saved,
+        Head + "\n" +
+            R"({"object":{"class":"AcDbLinetypeTableRecord","handle":"B0","name":"Center","description":"Center new","pattern":[2,-1]}})"
+            "\n" +
+            dashed);
     EXPECT_EQ(run({"Load", "", "Load", "x", "."}).added, "");
 }
 

@@ -129,7 +129,8 @@ public:
     CZtString groupName() const override { return "TEST"; }
     ResultCode execute(OdEdCommandContext& context) override
     {
-        const auto item = [](int code, const char* text) { return OdResBufPtr::make(code, QString(QLatin1String(text))); };
+        const auto item = [](int code, const char* text)
+        { return OdResBufPtr::make(code, QString(QLatin1String(text))); };
         const OdDbObjectId object = ACTIVE_DOCUMENT()->GetZtDatabase()->getOdDbObjectId(OdDbHandle(1));
         CZtDrawingEditor& drawing = context.DrawingEditor();
         EXPECT_THROW(drawing.setXData(object, {item(1001, "TOUCH")}), OdError) << "not registered yet";

@@ -23,10 +23,7 @@ struct CZtKeyword
 class CZtKeywordArray
 {
 public:
-    void push_back(CZtString local, CZtString global)
-    {
-        keywords_.push_back({std::move(local), std::move(global)});
-    }
+    void push_back(CZtString local, CZtString global) { keywords_.push_back({std::move(local), std::move(global)}); }
 
     [[nodiscard]] bool isEmpty() const { return keywords_.empty(); }
     [[nodiscard]] auto begin() const { return keywords_.begin(); }
