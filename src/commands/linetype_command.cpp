@@ -48,9 +48,9 @@ public:
             {
                 return answered == ResultCancelled ? ResultCancelled : ResultNormal;
             }
-            if (Act(keyword) == ResultCancelled)
+            if (const ResultCode acted = Act(keyword); acted != ResultNormal)
             {
-                return ResultCancelled;
+                return acted == ResultCancelled ? ResultCancelled : ResultNormal;
             }
         }
     }
@@ -109,9 +109,13 @@ private:
             prompt.keywords = Keywords(styleOptions, {{". for none,.", ". for none,."}});
             answered = user_.GetString(prompt, answer);
         }
-        if (answered != ResultNormal || answer.isEmpty())
+        if (answered == ResultKeyword || answer.isEmpty())
         {
-            return answered; // a keyword chooses no file
+            return answered == ResultKeyword ? ResultNormal : answered; // no file is chosen
+        }
+        if (answered != ResultNormal)
+        {
+            return answered;
         }
         QFileInfo file(answer);
         if (!file.exists() && file.suffix().isEmpty())
@@ -277,7 +281,7 @@ private:
         for (const CZtLinetypeDefinition& definition : Chosen(names, definitions))
         {
             answered = LoadOne(definition);
-            if (answered == ResultCancelled)
+            if (answered != ResultNormal)
             {
                 return answered;
             }

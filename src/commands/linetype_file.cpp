@@ -63,7 +63,7 @@ public:
     }
 
 private:
-    void TakeHeader(QStringRef header)
+    void TakeHeader(const QStringRef& header)
     {
         MissPattern();
         const int comma = header.indexOf(QLatin1Char(','));
@@ -78,7 +78,7 @@ private:
     }
 
     // A pattern behind a broken header is no fault of its own.
-    void TakePattern(QStringRef line)
+    void TakePattern(const QStringRef& line)
     {
         const State before = std::exchange(state_, State::None);
         if (before == State::None)

@@ -100,8 +100,8 @@ private:
     struct Former
     {
         ObjectValues values;
-        bool described;
-        bool changed;
+        bool described = false;
+        bool changed = false;
     };
     struct FormerValues
     {

@@ -45,7 +45,7 @@ QByteArray json(std::int32_t number)
 QByteArray json(double number)
 {
     std::array<char, 32> buffer{};
-    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number).ptr;
+    const char* const end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number).ptr;
     return {buffer.data(), static_cast<int>(end - buffer.data())};
 }
 
