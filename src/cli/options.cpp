@@ -18,7 +18,7 @@ constexpr const char* programFooter = R"(
 Examples:
   kvmacro convert examples/bracket.jsonl --language cpp --output out
   kvmacro check examples/bracket.jsonl --summary
-  kvmacro run -LINESTYLE --drawing examples/bracket.jsonl --save out.jsonl
+  printf 'Set\nCENTER\n\n' | kvmacro run -LINESTYLE --drawing examples/bracket.jsonl --save out.jsonl
 
 Exit status: 0 done; 1 the conversion or the command failed, the command was cancelled, or a file can't be written; 2 bad usage, a bad journal, or a file that is
 there already.)";
@@ -42,7 +42,6 @@ Prompts are answered at the terminal or, one answer a line, from standard input.
 <>, or ends the command. Ctrl-D, Escape and the end of the input cancel; then nothing is saved.
 
 Examples:
-  kvmacro run -LINESTYLE --drawing examples/bracket.jsonl
   kvmacro run -LINESTYLE --drawing examples/bracket.jsonl --save out.jsonl
   printf 'Load\n*\nexamples/lines.lin\n\n' | kvmacro run LINESTYLE --drawing examples/bracket.jsonl --save out.jsonl
   printf 'Insert\nArea\n0,0\n60,40\nhttp://example.com\n\nThe maker\n' |

@@ -83,7 +83,7 @@ class Usage(ProgramTest):
             for example in re.findall(r"^  kvmacro (.*)$", self.run_program(*command, "--help").stdout, re.MULTILINE):
                 if every or "--language cpp" in example or "--language" not in example:
                     words = [str(source / word) if word.startswith("examples/") else word for word in example.split()]
-                    self.run_program(*words, input="\n")
+                    self.run_program(*words)
 
     def test_faults_of_usage_give_2_and_write_nothing(self):
         before = tree(self.folder)

@@ -47,8 +47,11 @@ class Program(RunTest):
         folder = self.folder / "bin"
         folder.mkdir()
         (folder / "kvmacro").symlink_to(pathlib.Path(PROGRAM).resolve())
-        text = subprocess.run([PROGRAM, "run", "--help"], capture_output=True, text=True, check=True).stdout
-        commands = re.sub(r"\|\n\s+", "| ", text.split("Examples:\n")[1]).strip().splitlines()
+        commands = []
+        for arguments in (["--help"], ["run", "--help"]):
+            text = subprocess.run([PROGRAM, *arguments], capture_output=True, text=True, check=True).stdout
+            examples = re.sub(r"\|\n\s+", "| ", text.split("Examples:\n")[1])
+            commands += re.findall(r"^  (.*kvmacro run .*)$", examples, re.MULTILINE)
         self.assertEqual(len(commands), 4)
         for command in commands:
             with self.subTest(command=command):
