@@ -20,8 +20,8 @@ Examples:
   kvmacro check examples/bracket.jsonl --summary
   printf 'Set\nCENTER\n\n' | kvmacro run -LINESTYLE --drawing examples/bracket.jsonl --save out.jsonl
 
-Exit status: 0 done; 1 the conversion or the command failed, the command was cancelled, or a file can't be written; 2 bad usage, a bad journal, or a file that is
-there already.)";
+Exit status: 0 done; 1 the conversion or the command failed, the command was cancelled, or a file can't be written; 2 bad
+usage, a bad journal, or a file that is there already.)";
 
 constexpr const char* convertFooter = R"(
 Examples:
