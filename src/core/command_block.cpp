@@ -3,9 +3,14 @@
 #include "core/macro_writer.h"
 #include "core/type_table.h"
 #include "core/variable_names.h"
+#include "host/db/blocks.h"
+#include "host/db/polylines.h"
+#include "host/db/symbols.h"
 #include "host/db/text.h"
 #include "host/kernel/services.h"
 
+#include <algorithm>
+#include <array>
 #include <utility>
 
 namespace
@@ -19,11 +24,11 @@ enum BlockAction : std::int32_t
 };
 
 // Classes whose variable is filled by a custom action of the same command.
-bool IsFilledByAction(const QString& className)
+bool IsFilledByAction(const OdRxClass* objectClass)
 {
-    static constexpr std::array names = {"AcDbOle2Frame",       "AcDbPolyline", "AcDbHatch",
-                                         "AcDbViewTableRecord", "AcDbRegion",   "AcDbRasterImage"};
-    return std::ranges::any_of(names, [&](const char* name) { return className == QLatin1String(name); });
+    const std::array classes = {OdDbOle2Frame::desc(),       OdDbPolyline::desc(), OdDbHatch::desc(),
+                                OdDbViewTableRecord::desc(), OdDbRegion::desc(),   OdDbRasterImage::desc()};
+    return std::ranges::find(classes, objectClass) != classes.end();
 }
 
 // True for the text style that stands for the shapes of line styles, which the user never made.
@@ -77,7 +82,7 @@ std::vector<ObjectPair> CZtConverterKVAPIImpl::CollectCommandObjects(const CZtJo
         const auto added = OdSmartPtr<CZtObjectAdded>::cast(child);
         const OdRxClass* objectClass = added->GetObjectClass();
         static_cast<void>(ObjectConverter()); // nothing can be named without the object logic
-        if (objectClass == nullptr || !kv::IsSupportedClass(objectClass->name()))
+        if (objectClass == nullptr || !kv::FactsOf(objectClass).isSupported)
         {
             continue;
         }
@@ -125,8 +130,7 @@ ResultCode CZtConverterKVAPIImpl::ConvertUserCommand(MacroWriter& writer, const 
         blockHead += DeclareVariable(object);
         QString name;
         QString type;
-        if (IsFilledByAction(object.objectClass->name()) &&
-            GetObjectTypeNames(object.objectClass, name, type) == ResultNormal)
+        if (IsFilledByAction(object.objectClass) && GetObjectTypeNames(object.objectClass, name, type) == ResultNormal)
         {
             pendingVariables.append(VariableName(name, object.number, PlainPointerMark::Removed));
         }

@@ -59,7 +59,7 @@ ResultCode CZtConverterKVAPIImpl::ConvertEvent(OdRxObject* event, QString& text)
 void CZtConverterKVAPIImpl::FetchChangedLayer(const CZtObjectModified& event, QString& text)
 {
     const OdRxClass* objectClass = event.GetObjectClass();
-    if (objectClass == nullptr || !kv::IsSupportedClass(objectClass->name()) ||
+    if (objectClass == nullptr || !kv::FactsOf(objectClass).isSupported ||
         objectClass->name().compare(QLatin1String("AcDbLayerTableRecord"), Qt::CaseInsensitive) != 0 ||
         FindKnownObject(event.GetObjectHandle()) != nullptr)
     {

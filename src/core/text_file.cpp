@@ -3,10 +3,30 @@
 
 #include "core/converter_impl.h"
 
+#include <algorithm>
+
 namespace
 {
 // Large enough that the system calls don't count, small enough to stay in the cache.
 constexpr int PieceSize = 64 * 1024;
+// Appends a text as UTF-8. Most texts are plain ASCII, which needs no copy between.
+void AppendUtf8(QByteArray& bytes, const QString& text)
+{
+    const int before = bytes.size();
+    bytes.resize(before + text.size());
+    char16_t all = 0;
+    std::ranges::transform(text, bytes.begin() + before,
+                           [&](QChar character)
+                           {
+                               all |= character.unicode();
+                               return static_cast<char>(character.unicode());
+                           });
+    if (all >= 0x80)
+    {
+        bytes.resize(before);
+        bytes.append(text.toUtf8());
+    }
+}
 } // namespace
 
 TextFile::TextFile(const QString& path) : file_(path) {}
@@ -35,7 +55,7 @@ bool TextFile::Open(bool byteOrderMark)
 
 void TextFile::Write(const QString& text)
 {
-    pending_.append(text.toUtf8());
+    AppendUtf8(pending_, text);
     if (pending_.size() >= PieceSize)
     {
         Flush();

@@ -6,6 +6,7 @@
 #include <iterator>
 #include <QHash>
 #include <QSet>
+#include <unordered_map>
 
 namespace kv
 {
@@ -176,5 +177,16 @@ bool IsSupportedClass(const QString& className)
 {
     static const QSet<QString> classes(std::begin(supportedClasses), std::end(supportedClasses));
     return classes.contains(className);
+}
+
+const ClassFacts& FactsOf(const OdRxClass* objectClass)
+{
+    static std::unordered_map<const OdRxClass*, ClassFacts> known = {{nullptr, {}}};
+    const auto [facts, isNew] = known.try_emplace(objectClass);
+    if (isNew)
+    {
+        facts->second = {FindObjectType(objectClass->name()), IsSupportedClass(objectClass->name())};
+    }
+    return facts->second;
 }
 } // namespace kv

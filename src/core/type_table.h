@@ -1,6 +1,8 @@
 // The database classes that a macro can speak of, and their names in the automation API.
 #pragma once
 
+#include "host/odrx/class.h"
+
 #include <QString>
 #include <span>
 
@@ -27,4 +29,14 @@ struct ObjectType
 /// "AcDb2dPolyline" has one and isn't supported; "AcDbViewTable" and "AcDbLayerTable" are supported and have none.
 /// Letter case counts; the cost is one hash look-up.
 [[nodiscard]] bool IsSupportedClass(const QString& className);
+
+/// What the tables say of a class. Null says nothing.
+struct ClassFacts
+{
+    const ObjectType* type = nullptr; ///< its row, null when it has none
+    bool isSupported = false;         ///< as IsSupportedClass
+};
+
+/// The same by the class itself, which is looked up by its name only once.
+[[nodiscard]] const ClassFacts& FactsOf(const OdRxClass* objectClass);
 } // namespace kv

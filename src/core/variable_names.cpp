@@ -25,23 +25,34 @@ QString MakeStem(QString stem, bool isPointerType, PlainPointerMark mark)
 }
 } // namespace
 
-const QString& VariableStem(const QString& typeName, PlainPointerMark mark)
+QString VariableStem(const QString& typeName, PlainPointerMark mark)
 {
     // There are a few type names, and each object of a journal asks for one several times.
-    static std::array<QHash<QString, QString>, 3> known;
-    const bool isPointerType = CurrentLanguage() == MacroLanguage::CppApi;
-    QHash<QString, QString>& stems = known.at(!isPointerType ? 0 : mark == PlainPointerMark::Removed ? 1 : 2);
-    auto found = stems.constFind(typeName);
-    if (found == stems.constEnd())
+    struct Stems
     {
-        found = stems.insert(typeName, MakeStem(typeName, isPointerType, mark));
+        QHash<QString, QString> all;
+        QString lastType;
+        QString lastStem;
+    };
+    static std::array<Stems, 3> known;
+    const bool isPointerType = CurrentLanguage() == MacroLanguage::CppApi;
+    auto& [all, lastType, lastStem] = known.at(!isPointerType ? 0 : mark == PlainPointerMark::Removed ? 1 : 2);
+    if (lastType.isNull() || lastType != typeName)
+    {
+        auto found = all.constFind(typeName);
+        if (found == all.constEnd())
+        {
+            found = all.insert(typeName, MakeStem(typeName, isPointerType, mark));
+        }
+        lastType = typeName;
+        lastStem = *found;
     }
-    return *found;
+    return lastStem;
 }
 
 QString VariableName(const QString& typeName, std::int32_t number, PlainPointerMark mark)
 {
-    const QString& stem = VariableStem(typeName, mark);
+    const QString stem = VariableStem(typeName, mark);
     std::array<char, 16> digits{};
     const char* end = std::to_chars(digits.begin(), digits.end(), number).ptr;
     return stem + QLatin1String(digits.data(), static_cast<int>(end - digits.data()));
@@ -49,7 +60,7 @@ QString VariableName(const QString& typeName, std::int32_t number, PlainPointerM
 
 ResultCode CZtConverterKVAPIImpl::GetObjectTypeNames(const OdRxClass* objectClass, QString& name, QString& type)
 {
-    const kv::ObjectType* row = objectClass != nullptr ? kv::FindObjectType(objectClass->name()) : nullptr;
+    const kv::ObjectType* row = kv::FactsOf(objectClass).type;
     if (row == nullptr)
     {
         return ResultError;

@@ -18,4 +18,4 @@ enum class PlainPointerMark
 [[nodiscard]] QString VariableName(const QString& typeName, std::int32_t number, PlainPointerMark mark);
 
 // The same without the number. The reference holds until the next call.
-[[nodiscard]] const QString& VariableStem(const QString& typeName, PlainPointerMark mark);
+[[nodiscard]] QString VariableStem(const QString& typeName, PlainPointerMark mark);

@@ -3,15 +3,23 @@
 
 #include <QtCore/QCoreApplication>
 
-const QString& DisplayWords::Translate(Context context, const char* word) const
+const DisplayWords::Word& DisplayWords::Look(Context context, const char* word) const
 {
     static constexpr std::array names = {"property_types", "property_values", "property_groups"};
     const auto index = static_cast<std::size_t>(context);
-    QHash<const char*, QString>& known = words_.at(index);
-    auto found = known.find(word);
-    if (found == known.end())
+    auto& [all, recent] = words_.at(index);
+    const auto address = reinterpret_cast<std::uintptr_t>(word);
+    Recent& last = recent.at((address ^ (address >> 9)) % recentSize);
+    if (last.address != word)
     {
-        found = known.insert(word, QCoreApplication::translate(names.at(index), word));
+        auto found = all.constFind(word);
+        if (found == all.constEnd())
+        {
+            const QLatin1String plain(word);
+            const QString translation = QCoreApplication::translate(names.at(index), word);
+            found = all.insert(word, {plain, translation, LengthBit(plain.size()) | LengthBit(translation.size())});
+        }
+        last = {word, *found};
     }
-    return *found;
+    return last.word;
 }

@@ -5,6 +5,7 @@
 #include <QtCore/QString>
 
 #include <array>
+#include <cstdint>
 
 // Keeps what the application answered, since every property of every event is looked up by its words. Lives for one
 // conversion, in which the translations don't change.
@@ -18,8 +19,26 @@ public:
         PropertyGroups,
     };
 
-    // The word in the user's language. The word must be a literal: it is known by its address.
-    [[nodiscard]] const QString& Translate(Context context, const char* word) const;
+    // A word in both forms, and the lengths that a text has which is one of them: bit n is the length n, modulo 64.
+    struct Word
+    {
+        QLatin1String plain;
+        QString translation;
+        std::uint64_t lengths = 0;
+    };
+
+    // The word as the user's language has it. The word must be a literal: it is known by its address. Valid until the
+    // next call.
+    [[nodiscard]] const Word& Look(Context context, const char* word) const;
+    [[nodiscard]] const QString& Translate(Context context, const char* word) const
+    {
+        return Look(context, word).translation;
+    }
+
+    [[nodiscard]] static std::uint64_t LengthBit(int length)
+    {
+        return std::uint64_t{1} << (static_cast<unsigned>(length) % 64U);
+    }
 
     // True when a text of the journal is the translated word.
     [[nodiscard]] bool Matches(Context context, const char* word, const QString& text,
@@ -29,5 +48,17 @@ public:
     }
 
 private:
-    mutable std::array<QHash<const char*, QString>, 3> words_;
+    // The words last asked for, by a few bits of their address: most events ask for the same ones in turn.
+    struct Recent
+    {
+        const char* address = nullptr;
+        Word word;
+    };
+    static constexpr std::size_t recentSize = 512;
+    struct Words
+    {
+        QHash<const char*, Word> all;
+        std::array<Recent, recentSize> recent;
+    };
+    mutable std::array<Words, 3> words_;
 };

@@ -31,7 +31,7 @@ ResultCode CZtConverterKVAPIObject::ConvertObjectAdded(const CZtObjectAdded& eve
     {
         return ResultError;
     }
-    if (!kv::IsSupportedClass(objectClass->name()))
+    if (!kv::FactsOf(objectClass).isSupported)
     {
         return ResultNormal;
     }
@@ -54,7 +54,7 @@ ResultCode CZtConverterKVAPIObject::ConvertObjectModified(const CZtObjectModifie
     {
         return ResultError;
     }
-    if (!kv::IsSupportedClass(objectClass->name()) || event.GetProperties().empty())
+    if (!kv::FactsOf(objectClass).isSupported || event.GetProperties().empty())
     {
         return ResultNormal;
     }
@@ -83,7 +83,7 @@ ResultCode CZtConverterKVAPIObject::ConvertPropertyChanged(CZtPropertyChanged& e
     }
     // The event is itself the one property.
     PropertyList properties(event, words_, Converter().GetHostContext());
-    return ConvertProperties(event.GetObjectClass(), event.GetObjectHandle(), properties, false, text);
+    return ConvertProperties(event.GetObjectClass(), event.GetObjectHandle(), properties, {}, text);
 }
 
 bool CZtConverterKVAPIObject::IsDimensionClass(const OdRxClass* objectClass)
@@ -166,7 +166,7 @@ ResultCode CZtConverterKVAPIObject::ConvertCreation(const OdRxClass* objectClass
         return ResultNormal;
     }
     QString settings;
-    const ResultCode result = ConvertProperties(objectClass, handle, remaining, true, settings);
+    const ResultCode result = ConvertProperties(objectClass, handle, remaining, variable, settings);
     text += settings;
     return result;
 }
@@ -174,7 +174,7 @@ ResultCode CZtConverterKVAPIObject::ConvertCreation(const OdRxClass* objectClass
 ResultCode CZtConverterKVAPIObject::ConvertModification(const OdRxClass* objectClass, OdDbHandle handle,
                                                         PropertyList& properties, QString& text)
 {
-    return handle.isNull() ? ResultError : ConvertProperties(objectClass, handle, properties, false, text);
+    return handle.isNull() ? ResultError : ConvertProperties(objectClass, handle, properties, {}, text);
 }
 
 QString CZtConverterKVAPIObject::ConvertClassProperties(const OdRxClass* objectClass, const PropertyPass& pass)
@@ -265,16 +265,23 @@ QString CZtConverterKVAPIObject::ConvertErased(const OdRxClass* objectClass, con
 }
 
 ResultCode CZtConverterKVAPIObject::ConvertProperties(const OdRxClass* objectClass, OdDbHandle handle,
-                                                      PropertyList& properties, bool created, QString& text)
+                                                      PropertyList& properties, const QString& newVariable,
+                                                      QString& text)
 {
     text.clear();
-    const OdDbObjectId ownerLeader =
-        objectClass == OdDbMText::desc() ? CZtConverterKVAPIImpl::FindAttachedLeader(handle) : OdDbObjectId();
-    const bool isLeaderNote = !created && !ownerLeader.isNull();
+    const bool created = !newVariable.isEmpty();
+    const OdDbObjectId ownerLeader = !created && objectClass == OdDbMText::desc()
+                                         ? CZtConverterKVAPIImpl::FindAttachedLeader(handle)
+                                         : OdDbObjectId();
+    const bool isLeaderNote = !ownerLeader.isNull();
 
-    QString variable;
+    QString variable = newVariable;
     QString head;
-    if (isLeaderNote)
+    if (created)
+    {
+        // Its variable is known, and so is the object.
+    }
+    else if (isLeaderNote)
     {
         // The note hangs on its leader, whose variable leads to it; the look-ups themselves aren't written.
         QString leader;

@@ -98,8 +98,9 @@ private:
                                              PropertyList& remaining, QString& text);
     [[nodiscard]] ResultCode ConvertModification(const OdRxClass* objectClass, OdDbHandle handle,
                                                  PropertyList& properties, QString& text);
+    // The variable of an object that was made just now, empty for a change.
     [[nodiscard]] ResultCode ConvertProperties(const OdRxClass* objectClass, OdDbHandle handle,
-                                               PropertyList& properties, bool created, QString& text);
+                                               PropertyList& properties, const QString& newVariable, QString& text);
     [[nodiscard]] QString ConvertEntityProperties(const PropertyPass& pass, bool& noBlock);
     [[nodiscard]] QString ConvertErased(const OdRxClass* objectClass, const PropertyPass& pass);
     [[nodiscard]] QString ConvertClassProperties(const OdRxClass* objectClass, const PropertyPass& pass);

@@ -12,7 +12,7 @@ namespace
 // The one name that stands for a whole group.
 bool IsGroup(const char* name)
 {
-    return std::strcmp(name, "BlockAttributes") == 0;
+    return name[0] == 'B' && std::strcmp(name, "BlockAttributes") == 0;
 }
 } // namespace
 
@@ -23,6 +23,7 @@ PropertyList::PropertyList(const CZtPropertyList& elements, const DisplayWords& 
     for (const CZtPropertyElementPtr& element : elements)
     {
         elements_.push_back(element.get());
+        lengths_ |= DisplayWords::LengthBit(element->GetName().text().size());
     }
 }
 
@@ -36,13 +37,17 @@ PropertyList::Elements::const_iterator PropertyList::Find(const char* name) cons
                                                               element->GetGroup(), Qt::CaseInsensitive);
                                     });
     }
-    const QLatin1String plain(name);
-    const QString& word = words_.Translate(DisplayWords::Context::PropertyTypes, name);
+    // Most names that are asked for aren't there, and their lengths tell it.
+    const DisplayWords::Word& word = words_.Look(DisplayWords::Context::PropertyTypes, name);
+    if ((word.lengths & lengths_) == 0)
+    {
+        return elements_.end();
+    }
     return std::ranges::find_if(elements_,
                                 [&](const CZtPropertyElement* element)
                                 {
                                     const QString& own = element->GetName();
-                                    return own == plain || own == word;
+                                    return own == word.translation || own == word.plain;
                                 });
 }
 
@@ -139,9 +144,11 @@ void PropertyList::DropConsumed(const ConsumedProperties& consumed)
 {
     for (const CZtPropertyElement* used : consumed)
     {
-        const auto same = std::ranges::find_if(
-            elements_, [&](const CZtPropertyElement* element)
-            { return element->GetName() == used->GetName() && element->GetGroup() == used->GetGroup(); });
+        const auto same = std::ranges::find_if(elements_,
+                                               [&](const CZtPropertyElement* element) {
+                                                   return element == used || (element->GetName() == used->GetName() &&
+                                                                              element->GetGroup() == used->GetGroup());
+                                               });
         if (same != elements_.end())
         {
             elements_.erase(same);

@@ -18,7 +18,8 @@ public:
 
     // One element alone.
     PropertyList(const CZtPropertyElement& element, const DisplayWords& words, std::uint64_t hostContext)
-        : elements_{&element}, words_(words), hostContext_(hostContext)
+        : elements_{&element}, lengths_(DisplayWords::LengthBit(element.GetName().text().size())), words_(words),
+          hostContext_(hostContext)
     {
     }
 
@@ -64,6 +65,7 @@ private:
     [[nodiscard]] Elements::const_iterator Find(const char* name) const;
 
     Elements elements_;
+    std::uint64_t lengths_ = 0; // of the names in the list from the beginning, as DisplayWords::Word has them
     const DisplayWords& words_;
     std::uint64_t hostContext_;
 };
