@@ -62,6 +62,15 @@ void Print(const QStringList& lines)
     }
 }
 
+void Print(const QString& file, const JournalDiagnostics& diagnostics, bool withRemarks)
+{
+    Print(FormatFaults(file, diagnostics));
+    if (withRemarks)
+    {
+        Print(FormatRemarks(file, diagnostics));
+    }
+}
+
 std::string ModuleFile(const std::string& asked)
 {
     return asked.empty() ? QFile::encodeName(QCoreApplication::applicationDirPath() + "/kvconverter.so").toStdString()
@@ -85,26 +94,34 @@ bool ReadJournal(const CommonOptions& options, Session& session)
     JournalDiagnostics diagnostics;
     const QString file = ToQString(options.journal);
     const bool good = session.Load(file, diagnostics);
-    Print(FormatFaults(file, diagnostics));
-    if (!options.withoutRemarks)
-    {
-        Print(FormatRemarks(file, diagnostics));
-    }
+    Print(file, diagnostics, !options.withoutRemarks);
     return good;
 }
 
-int RunConversion(Session& session, const Conversion& conversion, ConversionObserver* observer)
+bool ReadDrawing(const std::string& file, const QByteArray& text, Session& session)
 {
-    const std::string language = conversion.language.word;
-    std::optional<LoadedModule> module;
+    JournalDiagnostics diagnostics;
+    const bool good = session.LoadText(text, diagnostics);
+    Print(ToQString(file), diagnostics, true);
+    return good;
+}
+
+std::unique_ptr<LoadedModule> LoadModule(const std::string& file)
+{
     try
     {
-        module.emplace(ToQString(ModuleFile(conversion.options.module)));
+        return std::make_unique<LoadedModule>(ToQString(ModuleFile(file)));
     }
     catch (const std::runtime_error& error)
     {
         throw Failure(BadInput, error.what());
     }
+}
+
+int RunConversion(Session& session, const Conversion& conversion, ConversionObserver* observer)
+{
+    const std::string language = conversion.language.word;
+    const auto module = LoadModule(conversion.options.module);
 
     ResultCode code = ResultError;
     std::uint64_t bytes = 0;

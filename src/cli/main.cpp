@@ -1,9 +1,10 @@
-// The program kvmacro: converts and checks recorded sessions.
+// The program kvmacro: converts and checks recorded sessions, and runs commands on their drawings.
 #include "cli/check.h"
 #include "cli/child_process.h"
 #include "cli/convert.h"
 #include "cli/failure.h"
 #include "cli/options.h"
+#include "cli/run.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QTextCodec>
@@ -36,6 +37,11 @@ int Run(const ConvertOptions& options, const std::vector<std::string>& commandLi
 int Run(const CheckOptions& options, const std::vector<std::string>& commandLine)
 {
     return options.stagedFolder.empty() ? Check(commandLine) : (EndWithParent(options.stagedBy), CheckStaged(options));
+}
+
+int Run(const RunOptions& options, const std::vector<std::string>&)
+{
+    return RunCommand(options);
 }
 
 int Run(int status, const std::vector<std::string>&)

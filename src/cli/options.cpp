@@ -18,9 +18,10 @@ constexpr const char* programFooter = R"(
 Examples:
   kvmacro convert examples/bracket.jsonl --language cpp --output out
   kvmacro check examples/bracket.jsonl --summary
+  printf 'Set\nCENTER\n\n' | kvmacro run -LINESTYLE --drawing examples/bracket.jsonl --save out.jsonl
 
-Exit status: 0 done; 1 the conversion failed or a file can't be written; 2 bad usage, a bad journal, or a file that is
-there already.)";
+Exit status: 0 done; 1 the conversion or the command failed, the command was cancelled, or a file can't be written; 2 bad
+usage, a bad journal, or a file that is there already.)";
 
 constexpr const char* convertFooter = R"(
 Examples:
@@ -31,6 +32,20 @@ constexpr const char* checkFooter = R"(
 Examples:
   kvmacro check examples/bracket.jsonl
   kvmacro check examples/bracket.jsonl --language vba --summary)";
+
+constexpr const char* runFooter = R"(
+Commands:
+  -LINESTYLE  lists, creates, loads and activates line styles
+  -HYPERLINK  attaches hyperlinks to entities or to an area, and removes them
+
+Prompts are answered at the terminal or, one answer a line, from standard input. An empty answer takes what stands in
+<>, or ends the command. Ctrl-D, Escape and the end of the input cancel; then nothing is saved.
+
+Examples:
+  kvmacro run -LINESTYLE --drawing examples/bracket.jsonl --save out.jsonl
+  printf 'Load\n*\nexamples/lines.lin\n\n' | kvmacro run LINESTYLE --drawing examples/bracket.jsonl --save out.jsonl
+  printf 'Insert\nArea\n0,0\n60,40\nhttp://example.com\n\nThe maker\n' |
+    kvmacro run HYPERLINK --drawing examples/bracket.jsonl --save out.jsonl)";
 
 std::vector<std::string> LanguageWords(bool withAll)
 {
@@ -47,6 +62,13 @@ std::vector<std::string> LanguageWords(bool withAll)
     return words;
 }
 
+void AddModuleOption(CLI::App& command, std::string& module)
+{
+    command.add_option("--module", module, "The converter module (default: kvconverter.so beside the program)")
+        ->envname("KVMACRO_MODULE")
+        ->option_text("FILE");
+}
+
 void AddCommonOptions(CLI::App& command, CommonOptions& options, bool withAll)
 {
     command.add_option("JOURNAL", options.journal, "The recorded session, a .jsonl file")->required();
@@ -58,14 +80,31 @@ void AddCommonOptions(CLI::App& command, CommonOptions& options, bool withAll)
                     "Recording mode in place of the journal's: 1 converts prompts, selections"
                     " and system variables too")
         ->option_text("N");
-    command.add_option("--module", options.module, "The converter module (default: kvconverter.so beside the program)")
-        ->envname("KVMACRO_MODULE")
-        ->option_text("FILE");
+    AddModuleOption(command, options.module);
     // What the program tells the processes of its own that convert; an empty group keeps them out of the help.
     command.add_option("--staged", options.stagedFolder)->group("");
     command.add_option("--staged-by", options.stagedBy)->group("");
     command.add_option("--staged-language", options.stagedLanguage)->group("");
     command.add_flag("--without-remarks", options.withoutRemarks)->group("");
+}
+
+// The arguments as the parser takes them, without the program: the hyphen of a command's name would make it an option.
+std::vector<std::string> Arguments(int argc, const char* const* argv)
+{
+    std::vector<std::string> arguments(argv + std::min(argc, 1), argv + argc);
+    if (!arguments.empty() && arguments.front() == "run")
+    {
+        constexpr std::size_t longestOption = 2; // with one hyphen
+        for (std::string& argument : arguments)
+        {
+            if (argument.size() > longestOption && argument[0] == '-' && argument[1] != '-')
+            {
+                argument.erase(0, 1);
+            }
+        }
+    }
+    std::reverse(arguments.begin(), arguments.end()); // the parser takes them from the end
+    return arguments;
 }
 
 // The file name up to its first dot.
@@ -100,7 +139,7 @@ void CheckName(const std::string& name, bool given)
 
 } // namespace
 
-std::variant<ConvertOptions, CheckOptions, int> ParseOptions(int argc, const char* const* argv)
+std::variant<ConvertOptions, CheckOptions, RunOptions, int> ParseOptions(int argc, const char* const* argv)
 {
     ConvertOptions convert;
     CheckOptions check;
@@ -129,9 +168,23 @@ std::variant<ConvertOptions, CheckOptions, int> ParseOptions(int argc, const cha
     AddCommonOptions(*checkCommand, check, false);
     checkCommand->add_flag("--summary", check.summary, "Print the counts only");
 
+    RunOptions run;
+    CLI::App* runCommand = app.add_subcommand("run", "Runs a command on the drawing of a journal");
+    runCommand->footer(runFooter);
+    runCommand->add_option("COMMAND", run.command, "-LINESTYLE or -HYPERLINK; the hyphen may be left out")->required();
+    runCommand->add_option("--drawing", run.drawing, "The journal file whose drawing the command works on")
+        ->option_text("FILE REQUIRED")
+        ->required();
+    runCommand
+        ->add_option("--save", run.save,
+                     "The file that gets the journal with the changed drawing; it is replaced, and may be that of"
+                     " --drawing (default: nothing is saved)")
+        ->option_text("FILE");
+    AddModuleOption(*runCommand, run.module);
+
     try
     {
-        app.parse(argc, argv);
+        app.parse(Arguments(argc, argv));
     }
     catch (const CLI::ParseError& error)
     {
@@ -141,6 +194,10 @@ std::variant<ConvertOptions, CheckOptions, int> ParseOptions(int argc, const cha
     if (checkCommand->parsed())
     {
         return check;
+    }
+    if (runCommand->parsed())
+    {
+        return run;
     }
     const bool nameGiven = name->count() > 0;
     if (!nameGiven)

@@ -37,8 +37,17 @@ struct CheckOptions : CommonOptions
     bool summary = false;
 };
 
+struct RunOptions
+{
+    std::string command; // of the module, with or without the marks of its forms
+    std::string drawing; // a journal file
+    std::string save;    // the file that gets the changed drawing; empty for none
+    std::string module;  // the module file; empty for the one beside the program
+};
+
 // Reads the command line. Gives the options of the command, or the exit status when nothing is left to do because help,
 // the version or a fault of usage was printed. Throws Failure for a name that no macro can have.
-[[nodiscard]] std::variant<ConvertOptions, CheckOptions, int> ParseOptions(int argc, const char* const* argv);
+[[nodiscard]] std::variant<ConvertOptions, CheckOptions, RunOptions, int> ParseOptions(int argc,
+                                                                                       const char* const* argv);
 
 } // namespace kv::cli

@@ -203,7 +203,7 @@ void JournalReader::readRecord(const JsonNode& node)
     }
     else if (key == "object")
     {
-        ReadObject(record, *recording_.drawing);
+        ReadObject(record, lineNumber_, *recording_.drawing);
     }
     else if (key == "journal")
     {

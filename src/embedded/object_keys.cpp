@@ -153,6 +153,7 @@ void addCurves(KeyTable& table)
     table[OdDbXline::desc()] = {point("basePoint"), point("secondPoint")};
     const KeyList polyline = {list<PointList>("vertices"), flag("closed"), list<NumberList>("bulges")};
     table[OdDbPolyline::desc()] = polyline;
+    table[OdDbPolyline::desc()].push_back(handle("layer"));
     table[OdDb2dPolyline::desc()] = polyline;
     table[OdDb3dPolyline::desc()] = polyline;
     table[OdDbSpline::desc()] = {list<PointList>("fitPoints"), flag("closed"), point("startTangent"),

@@ -123,7 +123,7 @@ const OdRxClass* readClass(const JsonNode& node)
 }
 } // namespace
 
-void ReadObject(const JsonNode& node, Drawing& drawing)
+void ReadObject(const JsonNode& node, std::int64_t line, Drawing& drawing)
 {
     const OdRxClass* objectClass = nullptr;
     std::optional<OdDbHandle> handle;
@@ -176,6 +176,7 @@ void ReadObject(const JsonNode& node, Drawing& drawing)
         node.fail(
             QStringLiteral("the handle %1 has an object already, another handle was expected").arg(handle->ascii()));
     }
+    drawing.setLineOf(*handle, line);
 }
 
 void ReadDrawingValues(const JsonNode& node, Drawing& drawing)

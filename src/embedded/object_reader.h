@@ -6,9 +6,9 @@
 
 namespace kv
 {
-// Adds the object of an "object" record to the drawing. Throws BadInput for an unknown class or key, a value of the
-// wrong type and a handle that has an object already.
-void ReadObject(const JsonNode& node, Drawing& drawing);
+// Adds the object of an "object" record, which stands on the line, to the drawing. Throws BadInput for an unknown class
+// or key, a value of the wrong type and a handle that has an object already.
+void ReadObject(const JsonNode& node, std::int64_t line, Drawing& drawing);
 
 // Takes over the database-wide values of a "drawing" record.
 void ReadDrawingValues(const JsonNode& node, Drawing& drawing);

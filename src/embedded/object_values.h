@@ -90,9 +90,13 @@ public:
         return byDefault != nullptr ? *byDefault : empty;
     }
 
-private:
+    // The keys that were given a value, with it, in the order in which they were given first.
+    [[nodiscard]] const std::vector<std::pair<const ObjectKey*, ObjectValue>>& all() const { return given_; }
+
+    // The value that was given, of any type; null when none was.
     [[nodiscard]] const ObjectValue* find(std::string_view name) const;
 
+private:
     const KeyList* keys_;
     std::vector<std::pair<const ObjectKey*, ObjectValue>> given_;
 };

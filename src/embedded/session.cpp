@@ -1,7 +1,10 @@
 // Loading a session and converting it.
 #include "embedded/session.h"
 
+#include "embedded/console.h"
+#include "embedded/drawing_editor.h"
 #include "embedded/journal_reader.h"
+#include "embedded/journal_writer.h"
 #include "embedded/property_collection.h"
 
 #include <QtCore/QBuffer>
@@ -136,6 +139,54 @@ ResultCode Session::Convert(CZtConverterModule& module, const QString& outputPat
     constexpr std::uint64_t hostContext = 0;
     return module.ConvertJournal(CZtString(outputPath), language, recordingMode.value_or(RecordingMode()), hostContext,
                                  Journal());
+}
+
+namespace
+{
+// What a command sees of the session.
+class CommandContext final : public OdEdCommandContext
+{
+public:
+    CommandContext(Recording& recording, AnswerSource* answers) : recording_(recording), editor_(*recording.drawing)
+    {
+        if (answers != nullptr)
+        {
+            console_.emplace(*answers, *recording.drawing, editor_);
+        }
+    }
+
+    CZtUserIO* GetZtUserIO() override { return console_ ? &*console_ : nullptr; }
+    CZtDrawingEditor& DrawingEditor() override { return editor_; }
+    bool GetEffectiveFileDia() const override { return recording_.settings.number(QStringLiteral("FILEDIA")) != 0; }
+
+private:
+    Recording& recording_;
+    class DrawingEditor editor_;
+    std::optional<Console> console_;
+};
+} // namespace
+
+ResultCode Session::RunCommand(CZtCommand& command, AnswerSource* answers)
+{
+    RegisterHost(this);
+    Drawing& drawing = *state_->recording.drawing;
+    CommandContext context(state_->recording, answers);
+    try
+    {
+        const ResultCode result = command.execute(context);
+        result == ResultNormal ? drawing.keepChanges() : drawing.takeBackChanges();
+        return result;
+    }
+    catch (...)
+    {
+        drawing.takeBackChanges();
+        throw;
+    }
+}
+
+QByteArray Session::WithChanges(const QByteArray& source) const
+{
+    return kv::WithChanges(source, *state_->recording.drawing);
 }
 
 CZtSystemServices& Session::SystemServices()

@@ -3,6 +3,7 @@
 
 #include "embedded/diagnostics.h"
 #include "embedded/export.h"
+#include "host/kernel/command.h"
 #include "host/kernel/converter_module.h"
 #include "host/kernel/services.h"
 
@@ -14,6 +15,8 @@
 
 namespace kv
 {
+class AnswerSource;
+
 class KVEMBEDDED_API Session final : public CZtHost
 {
 public:
@@ -51,6 +54,14 @@ public:
     // host's kind (OdError) pass through.
     [[nodiscard]] ResultCode Convert(CZtConverterModule& module, const QString& outputPath, std::uint32_t language,
                                      std::optional<std::int32_t> recordingMode = {});
+
+    // Registers this host and runs a command on the drawing; without answers there is no user to ask. Gives the
+    // command's code; exceptions of the host's kind (OdError) pass through. Only a command that gives ResultNormal
+    // changes the drawing.
+    [[nodiscard]] ResultCode RunCommand(CZtCommand& command, AnswerSource* answers);
+
+    // The text that the session was read from, with what commands changed in the drawing.
+    [[nodiscard]] QByteArray WithChanges(const QByteArray& source) const;
 
     CZtSystemServices& SystemServices() override;
     CZtDocument* ActiveDocument() override;

@@ -13,9 +13,20 @@ namespace kv
 {
 namespace
 {
+// Where the values of any object are found.
+class HoldsValues
+{
+public:
+    HoldsValues() = default;
+    virtual ~HoldsValues() = default;
+    HoldsValues(const HoldsValues&) = delete;
+    HoldsValues& operator=(const HoldsValues&) = delete;
+    [[nodiscard]] virtual ObjectValues& storedValues() = 0;
+};
+
 // What all objects have in common, and short names for their values.
 template <class Base>
-class Stored : public Base
+class Stored : public Base, public HoldsValues
 {
 public:
     Stored(Drawing& drawing, OdDbHandle handle, const OdRxClass* objectClass, ObjectValues values)
@@ -25,6 +36,7 @@ public:
 
     const OdRxClass* isA() const override { return class_; }
     OdDbObjectId objectId() const override { return {&drawing_, handle_}; }
+    ObjectValues& storedValues() override { return values_; }
     bool isErased() const override { return flag("erased"); }
     OdArray<OdResBufPtr> xData(const OdString& application) const override
     {
@@ -594,5 +606,10 @@ OdDbObjectPtr MakeStoredObject(Drawing& drawing, OdDbHandle handle, const OdRxCl
         factory = factories.find(level);
     }
     return factory->second(drawing, handle, objectClass, std::move(values));
+}
+
+ObjectValues& StoredValuesOf(OdDbObject& object)
+{
+    return dynamic_cast<HoldsValues&>(object).storedValues();
 }
 } // namespace kv

@@ -12,4 +12,7 @@ class Drawing;
 // doesn't know is an entity without values of its own.
 [[nodiscard]] OdDbObjectPtr MakeStoredObject(Drawing& drawing, OdDbHandle handle, const OdRxClass* objectClass,
                                              ObjectValues values);
+
+// The values of an object that was made here.
+[[nodiscard]] ObjectValues& StoredValuesOf(OdDbObject& object);
 } // namespace kv

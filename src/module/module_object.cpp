@@ -1,6 +1,7 @@
 // The one object of the module.
 #include "module/module_object.h"
 
+#include "commands/command_list.h"
 #include "module/converter_factory.h"
 #include "platform/platform.h"
 
@@ -44,4 +45,9 @@ ResultCode CZtConverterKVAPIModule::ConvertJournal(const CZtString& outputPath, 
 {
     const auto converter = CreateConverter(languageIndex, recordingMode, hostContext);
     return converter ? converter->Convert(outputPath, journal) : ResultError;
+}
+
+OdRxObject* CZtConverterKVAPIModule::x(const OdRxClass* wanted) const
+{
+    return wanted == CZtCommandSource::desc() ? kv::ModuleCommands() : nullptr;
 }

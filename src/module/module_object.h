@@ -14,6 +14,8 @@ public:
                                             std::int32_t recordingMode, std::uint64_t hostContext,
                                             const CZtJournal& journal) override;
     void CollectObjectProperties(OdRxObject* object, CZtVariantCollection* collection) override;
+    // Offers the module's commands (CZtCommandSource).
+    [[nodiscard]] OdRxObject* x(const OdRxClass* wanted) const override;
     void initApp() override {}
     void uninitApp() override {}
 };

@@ -64,7 +64,7 @@ const std::vector<std::pair<std::string, std::string>> Classes = {
     {"AcDbPoint", "position:p"},
     {"AcDbRay", "basePoint:p secondPoint:p"},
     {"AcDbXline", "basePoint:p secondPoint:p"},
-    {"AcDbPolyline", "vertices:P closed:f bulges:N"},
+    {"AcDbPolyline", "vertices:P closed:f bulges:N layer:h"},
     {"AcDb2dPolyline", "vertices:P closed:f bulges:N"},
     {"AcDb3dPolyline", "vertices:P closed:f bulges:N"},
     {"AcDbSpline", "fitPoints:P closed:f startTangent:p endTangent:p fitTolerance:n"},
@@ -119,6 +119,48 @@ struct Opened
     {
     }
 };
+
+// Changes the object with the handle 1 and takes the change back.
+class Touch final : public CZtCommand
+{
+public:
+    CZtString globalName() const override { return "_TOUCH"; }
+    CZtString localName() const override { return "TOUCH"; }
+    CZtString groupName() const override { return "TEST"; }
+    ResultCode execute(OdEdCommandContext& context) override
+    {
+        const auto item = [](int code, const char* text)
+        { return OdResBufPtr::make(code, QString(QLatin1String(text))); };
+        const OdDbObjectId object = ACTIVE_DOCUMENT()->GetZtDatabase()->getOdDbObjectId(OdDbHandle(1));
+        CZtDrawingEditor& drawing = context.DrawingEditor();
+        EXPECT_THROW(drawing.setXData(object, {item(1001, "TOUCH")}), OdError) << "not registered yet";
+        drawing.registerApplication(QStringLiteral("TOUCH"));
+        EXPECT_THROW(drawing.setXData({}, {item(1001, "TOUCH")}), OdError);
+        drawing.setXData(object, {item(1001, "TOUCH"), item(1000, "text")});
+        drawing.setXData(object, {item(1001, "TOUCH")});
+        return ResultNormal;
+    }
+};
+
+TEST(Drawing, EveryValueIsWrittenAsItIsRead)
+{
+    for (const auto& [className, classKeys] : Classes)
+    {
+        std::string line = R"({"object":{"class":")" + className + R"(","handle":"1")";
+        for (const auto& [key, form] : keysOf(className, classKeys))
+        {
+            line.append(",\"").append(key).append("\":").append(Forms.at(form).first);
+        }
+        // The line after it is cut off; one ahead of it isn't in the writer's form.
+        const std::string good = Head + "\n{ \"other\" : \"a\" }\r\n" + line + "}}\n";
+        JournalDiagnostics diagnostics;
+        Session session;
+        ASSERT_TRUE(session.LoadText(QByteArray::fromStdString(good + "{\"obj"), diagnostics));
+        Touch touch;
+        EXPECT_EQ(session.RunCommand(touch, nullptr), ResultNormal);
+        EXPECT_EQ(session.WithChanges(QByteArray::fromStdString(good + "{\"obj")).toStdString(), good);
+    }
+}
 
 TEST(Drawing, EveryKeyOfEveryClassIsTakenWithItsTypeOnly)
 {

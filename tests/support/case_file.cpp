@@ -14,7 +14,7 @@ namespace
     throw std::runtime_error((path + QStringLiteral(": ") + what).toStdString());
 }
 
-QByteArray ReadFile(const QString& path)
+QByteArray ReadWhole(const QString& path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
@@ -29,7 +29,7 @@ std::map<QString, QByteArray> Sections(const QString& path)
 {
     std::map<QString, QByteArray> sections;
     QByteArray* section = nullptr;
-    QByteArray text = ReadFile(path);
+    QByteArray text = ReadWhole(path);
     if (text.endsWith('\n'))
     {
         text.chop(1);
@@ -73,7 +73,7 @@ CaseFile CaseFile::Read(const QString& path)
         }
         else if (heading == QLatin1String("journal file"))
         {
-            file.journal = ReadFile(QStringLiteral(KV_SOURCE_DIR "/") + QString::fromUtf8(text).trimmed());
+            file.journal = ReadWhole(QStringLiteral(KV_SOURCE_DIR "/") + QString::fromUtf8(text).trimmed());
         }
         else if (heading == QLatin1String("mode"))
         {
