@@ -1,11 +1,11 @@
-// Measures whole conversions: journal file in, macro file out.
+// Measures whole conversions: journal file in, macro file out, of added lines and of a session of commands.
 //
 //   conversion_bench [LINES]
 //
 // The baseline reads the same file into the same journal objects and writes the bytes of the macro in pieces, without
 // converting. Conversion and baseline take turns, so that what else the machine does meets both alike; each number is
 // the median of the runs.
-#include "line_journal.h"
+#include "measured_journals.h"
 
 #include "embedded/session.h"
 #include "module/module_object.h"
@@ -121,12 +121,15 @@ struct Measured
     }
 };
 
-Measured MeasureTime(const QTemporaryDir& folder, int lines)
+// Writes a journal of so many lines or commands, with as many handles as there are.
+using JournalWriter = void (*)(const QString&, int, int);
+
+Measured MeasureTime(const QTemporaryDir& folder, JournalWriter write, int lines)
 {
     const QString journal = folder.filePath(QStringLiteral("lines.jsonl"));
     const QString macro = folder.filePath(QStringLiteral("macro.cpp"));
     const QString copy = folder.filePath(QStringLiteral("copy.cpp"));
-    WriteLineJournal(journal, lines, lines);
+    write(journal, lines, lines);
     TimeConversion(journal, macro);
     QFile file(macro);
     const QByteArray bytes = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
@@ -165,10 +168,10 @@ private:
 
 // What a conversion holds at most beyond the journal. With handles that come again and again, what is kept for each
 // object stays as small as that of the first ones.
-double MeasureMemory(const QTemporaryDir& folder, int lines, int handles)
+double MeasureMemory(const QTemporaryDir& folder, JournalWriter write, int lines, int handles)
 {
     const QString journal = folder.filePath(QStringLiteral("memory.jsonl"));
-    WriteLineJournal(journal, lines, handles);
+    write(journal, lines, handles);
     kv::Session session;
     Load(session, journal);
     HeapWatch watch;
@@ -177,9 +180,9 @@ double MeasureMemory(const QTemporaryDir& folder, int lines, int handles)
     return watch.Growth();
 }
 
-void Print(int lines, const Measured& measured)
+void Print(const char* unit, int lines, const Measured& measured)
 {
-    std::printf("%9d lines  journal %6.1f MB, macro %6.1f MB\n", lines, measured.journalBytes / 1e6,
+    std::printf("%9d %ss  journal %6.1f MB, macro %6.1f MB\n", lines, unit, measured.journalBytes / 1e6,
                 measured.macroBytes / 1e6);
     const auto row = [](const char* what, const Runs& times)
     { std::printf("  %-34s %7.3f s  %7.3f s\n", what, Median(times, &Seconds::wall), Median(times, &Seconds::cpu)); };
@@ -189,26 +192,26 @@ void Print(int lines, const Measured& measured)
     std::printf("  %-34s %7.2f    %7.2f\n", "ratio", measured.Ratio(&Seconds::wall), measured.Ratio(&Seconds::cpu));
 }
 
-void Measure(int lines)
+void Measure(const char* unit, JournalWriter write, int lines)
 {
     const QTemporaryDir folder;
     const int fewer = std::max(lines / 10, 1);
-    const Measured small = MeasureTime(folder, fewer);
-    const Measured large = MeasureTime(folder, lines);
-    Print(fewer, small);
-    Print(lines, large);
+    const Measured small = MeasureTime(folder, write, fewer);
+    const Measured large = MeasureTime(folder, write, lines);
+    Print(unit, fewer, small);
+    Print(unit, lines, large);
     const auto growth = [&](double Seconds::*part)
     { return Median(large.conversion, part) / lines / (Median(small.conversion, part) / fewer); };
-    std::printf("time for each line, %d against %d: wall %.2f, cpu %.2f\n", lines, fewer, growth(&Seconds::wall),
+    std::printf("time for each %s, %d against %d: wall %.2f, cpu %.2f\n", unit, lines, fewer, growth(&Seconds::wall),
                 growth(&Seconds::cpu));
 
     constexpr int handles = 1000;
-    const double memorySmall = MeasureMemory(folder, fewer, handles);
-    const double memoryLarge = MeasureMemory(folder, lines, handles);
-    std::printf("memory beyond the journal, %d handles: %.0f KiB for %d lines, %.0f KiB for %d\n", handles,
-                memorySmall / 1024, fewer, memoryLarge / 1024, lines);
+    const double memorySmall = MeasureMemory(folder, write, fewer, handles);
+    const double memoryLarge = MeasureMemory(folder, write, lines, handles);
+    std::printf("memory beyond the journal, %d handles: %.0f KiB for %d %ss, %.0f KiB for %d\n", handles,
+                memorySmall / 1024, fewer, unit, memoryLarge / 1024, lines);
     std::printf("memory beyond the journal, %d handles: %.0f bytes for each\n", lines,
-                MeasureMemory(folder, lines, lines) / lines);
+                MeasureMemory(folder, write, lines, lines) / lines);
 }
 } // namespace
 
@@ -222,7 +225,8 @@ int main(int argc, char** argv)
     }
     try
     {
-        Measure(lines);
+        Measure("line", &WriteLineJournal, lines);
+        Measure("command", &WriteCommandJournal, lines);
     }
     catch (const std::exception& fault)
     {

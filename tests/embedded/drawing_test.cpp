@@ -152,7 +152,8 @@ TEST(Drawing, EveryValueIsWrittenAsItIsRead)
             line.append(",\"").append(key).append("\":").append(Forms.at(form).first);
         }
         // The line after it is cut off; one ahead of it isn't in the writer's form.
-        const std::string good = Head + "\n{ \"other\" : \"a\" }\r\n" + line + "}}\n";
+        std::string good = Head;
+        good.append("\n{ \"other\" : \"a\" }\r\n").append(line).append("}}\n");
         JournalDiagnostics diagnostics;
         Session session;
         ASSERT_TRUE(session.LoadText(QByteArray::fromStdString(good + "{\"obj"), diagnostics));
