@@ -60,7 +60,7 @@ struct Handle
 // What a command of the session does to the object of the handle; a circle is drawn by every fourth command.
 void WriteEvents(std::ostream& out, int command, Handle handle, Coordinates& coordinates)
 {
-    const auto layer = R"({"name":"Layer","value":{"id":"10"}})";
+    const char* const layer = R"({"name":"Layer","value":{"id":"10"}})";
     switch (command % 4)
     {
     case 0:
