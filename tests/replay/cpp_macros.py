@@ -29,4 +29,4 @@ class Cpp(Language):
         program = macro.parent / "macro"
         self.compile("-include", "api.h", f"-I{macro.parent}", str(macro), str(macro.parent / "kvAddinConnection.cpp"),
                      "run.o", "-o", str(program))
-        return self.calls(str(program))
+        return self.calls(macro, str(program))

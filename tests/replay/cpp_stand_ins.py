@@ -35,16 +35,16 @@ def recording(argument, index):
     if argument.way == "inout":
         return f"call.add(replay::json(*{name}));"
     if argument.way == "unset":
-        return 'call.add("null");'
-    given = {"real": "call.mark()", "int": "1", "bool": "true", "text": 'kvString(L"given")'}
+        return f'call.type({name}); call.add("null");'
+    given = {"real": "call.mark()", "int": "call.whole()", "bool": "true", "text": 'kvString(L"given")'}
     if argument.type in given:
         return f'*{name} = {given[argument.type]}; call.add("null");'
     if argument.type.endswith("_e"):
         return f'*{name} = static_cast<{argument.type}>(0); call.add("null");'
     if argument.type in PLAIN and argument.type != "object":
         return f'{name}->values().assign({{new kvObject, new kvObject, new kvObject, new kvObject}}); call.add("null");'
-    new = "kvObject" if argument.type == "object" else class_name(argument.type)
-    return f'*{name} = new {new}; call.add(replay::object("out", (*{name})->number));'
+    made = "call.entity()" if argument.type == "object" else f"new {class_name(argument.type)}"
+    return f'*{name} = {made}; call.add(replay::object("out", (*{name})->number));'
 
 
 def member_text(owner, member):
@@ -64,6 +64,19 @@ def member_text(owner, member):
     definition = f"inline {result} {class_name(owner)}::{member.name}({parameters})\n{{\n    " + \
                  "\n    ".join(statements) + "\n}\n"
     return declaration, definition
+
+
+def entities(classes):
+    """What makes the entities of a drawing by the constants of their types."""
+    constants = [name for name, _ in api.enumerations()["kvObjectType_e"]]
+    types = "".join(f'    if (name == "{name}")\n        return {name};\n' for name in constants)
+    news = "".join(f'    if (selected()->type == "kv{name}Type")\n        made = new {class_name(name)};\n'
+                   for name in classes if f"kv{name}Type" in constants)
+    return (f"template <>\ninline kvObjectType_e replay::named(const std::string& name)\n{{\n{types}"
+            "    std::abort();\n}\n"
+            f"inline kvObject* replay::Call::entity() const\n{{\n"
+            f"    if (!selected())\n        return new kvObject;\n    kvObject* made = nullptr;\n{news}"
+            "    Drawing::only().know(made->number, *selected());\n    return made;\n}\n")
 
 
 def header():
@@ -107,6 +120,7 @@ def header():
             parts.append(f"struct kv{name}_ptr : {class_name(name)}\n{{\n}};")
     parts.append('inline std::string replay::json(const kvObject* value)\n{\n'
                  '    return value ? object("object", value->number) : "null";\n}\n')
+    parts.append(entities(classes))
     return "\n".join(parts + definitions)
 
 

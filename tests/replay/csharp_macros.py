@@ -35,4 +35,4 @@ class CSharp(Language):
         program = macro.parent / "macro.exe"
         self.tool(*COMPILE, "-r:Morvane.dll", "-main:Driver", f"-out:{program}", str(macro),
                   str(macro.parent / "Program.cs"), str(driver))
-        return self.calls("env", f"MONO_PATH={self.folder}", "mono", str(program))
+        return self.calls(macro, "mono", str(program), MONO_PATH=str(self.folder))

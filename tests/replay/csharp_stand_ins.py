@@ -30,10 +30,14 @@ def parameter(argument, index):
 
 def given(word, before="null"):
     """What the API gives back for a type, recorded: what the caller's variable held before, or an object's number."""
-    values = {"real": "call.Mark()", "int": "1", "bool": "true", "text": '"given"',
+    values = {"real": "call.Mark()", "int": "call.Whole()", "bool": "true", "text": '"given"',
               "objects": "(object)new object[] { new Made(), new Made(), new Made(), new Made() }"}
     if word in values:
         return f"call.Give({values[word]}, {before})"
+    if word == "object":
+        return "call.Give(call.Found())"
+    if word == "kvObjectType_e":
+        return f"call.Give(call.Type(), {before})"
     if word.endswith("_e"):
         return f"call.Give(({type_name(word)})0, {before})"
     return f"call.Give<{type_name(word)}>(new Made())"

@@ -17,7 +17,7 @@ def _argument(member, index):
     doubled = before is not None and before.way == "in" and before.type == argument.type
     written = argument.way in ("in", "handle") or (
         argument.way == "inout" and not doubled and not argument.type.endswith("_e"))
-    return {"type": argument.type, "written": written, "returned": argument.way in ("out", "inout")}
+    return {"type": argument.type, "written": written, "returned": argument.way in ("out", "inout", "unset")}
 
 
 def library():
@@ -51,4 +51,4 @@ class JavaScript(Language):
 
     def run(self, macro):
         """The calls that the page's button makes."""
-        return self.calls("node", "run.js", "api.js", "stand_ins.js", str(macro))
+        return self.calls(macro, "node", "run.js", "api.js", "stand_ins.js", str(macro))

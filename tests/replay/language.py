@@ -32,18 +32,21 @@ class Language:
         self.folder = Path(folder)
         self.prepare()
 
-    def tool(self, *command):
-        """Runs a tool in the folder of the stand-ins and gives what it printed."""
-        done = subprocess.run(command, cwd=self.folder, env={**os.environ, "LC_ALL": "C"}, capture_output=True,
-                              text=True, timeout=120, check=False)
+    def tool(self, *command, **variables):
+        """Runs a tool in the folder of the stand-ins, with variables of its environment, and gives what it printed."""
+        done = subprocess.run(command, cwd=self.folder, env={**os.environ, "LC_ALL": "C", **variables},
+                              capture_output=True, text=True, timeout=120, check=False)
         if done.returncode:
             messages = done.stdout + done.stderr
             raise Refused(f"{command[0]} ended with {done.returncode}: {messages}", self.error.findall(messages))
         return done.stdout
 
-    def calls(self, *command):
-        """The calls that a running macro printed, a line each."""
-        return [json.loads(line) for line in self.tool(*command).splitlines()]
+    def calls(self, macro, *command, **variables):
+        """The calls that a running macro printed, a line each. A drawing beside the macro answers its selections."""
+        drawing = macro.with_suffix(".drawing")
+        if drawing.exists():
+            variables["KV_DRAWING"] = str(drawing)
+        return [json.loads(line) for line in self.tool(*command, **variables).splitlines()]
 
     def story(self, calls):
         return teller.Teller().story(calls)

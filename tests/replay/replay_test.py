@@ -20,22 +20,27 @@ sys.path.insert(0, str(HERE))
 
 import api  # noqa: E402
 import browser  # noqa: E402
+import drawing  # noqa: E402
+import journals  # noqa: E402
 import story  # noqa: E402
 from com_projects import Com  # noqa: E402
 from cpp_macros import Cpp  # noqa: E402
 from csharp_macros import CSharp  # noqa: E402
 from javascript_macros import JavaScript  # noqa: E402
+from journal import read  # noqa: E402
 from language import Refused  # noqa: E402
 
 EXAMPLES = [SOURCE / "examples" / name for name in ("bracket.jsonl", "curves.jsonl")]
+COMMANDS = SOURCE / "examples" / "commands.jsonl"
 DRAWINGS = [SOURCE / "examples" / "dimensions.jsonl", *sorted((SOURCE / "examples" / "drawings").glob("*.jsonl"))]
 
 
 def refused_texts(language):
-    """What a language is known to refuse: [(message, text to take out)] by operation."""
+    """What a language is known to refuse: (message, text to take out, text to put there) by operation."""
     lines = (HERE / "not_compiling.txt").read_text(encoding="utf-8").splitlines()
     rows = [line.split(" | ") for line in lines if line and not line.startswith("#")]
-    return {operation: (message, text) for name, operation, message, text in rows if name == language}
+    return {operation: (message, text, *(instead or [""])) for name, operation, message, text, *instead in rows
+            if name == language}
 
 
 def drawn(steps):
@@ -70,56 +75,6 @@ def language_named(name):
     return next(language for language in LANGUAGES if language.name == name)
 
 
-def random_journal(chance):
-    """Every option and every kind of prompt with every type of answer, and curves with some of their properties."""
-    values = {"real": 1234.56789, "angle": 0.7853981633974483, "text": "12", "point": [1.5, -2.25, 1e7], "bool": True,
-              "int16": -3, "int32": 70000, "double": 1e-7, "string": "_Yes", "point2d": [4.0, 5.0],
-              "point3d": [1, 2, 3]}
-    texts = ("", "Specify<br>", "<b>Pick</b> one: ", "First<br>&raquo; second: ", "<i></i>")
-    yield {"journal": {"version": 1}}
-    yield {"drawing": {"currentLayout": "Plan"}}
-    yield {"object": {"class": "AcDbLayerTableRecord", "handle": "A0", "name": "Walls"}}
-    yield {"command": "PROMPTS"}
-    for kind in range(11):
-        for key, value in values.items():
-            prompt = {"kind": story.KINDS[kind] if chance.random() < 0.5 else kind, "text": chance.choice(texts),
-                      "answer": chance.choice((value, {key: value})) if key in ("real", "text") else {key: value}}
-            if chance.random() < 0.5:
-                prompt["keywords"] = {"local": ["Ja", "Nein"], "global": ["_Yes", "_No"]}
-            yield {"prompt": prompt}
-        yield {"prompt": {"kind": kind, "text": "not answered: "}}
-    yield {"end": "PROMPTS"}
-    by_kind = {"Bool": {"bool": True}, "Double": {"real": 1e6 / 7}, "Int8": {"int8": -2}, "Int16": {"int16": 300},
-               "Int32": {"int32": -100000}, "String": {"text": "any"}, "Point2d": {"point2d": [0.1, 2e-5]},
-               "Point3d": {"point3d": [1, 2.5, 1 / 3]}}
-    for variable, (kind, _) in {**api.options("Application"), **api.options("Command")}.items():
-        if variable is None:
-            continue  # an option that commands write themselves
-        yield {"sysvar": {"name": variable, "value": {"text": "17"} if variable == "CECOLOR" else by_kind[kind]}}
-    yield {"sysvar": {"name": "NOSUCH", "value": 1}}
-    for number in range(60):
-        handle, kind = f"{number % 40 + 256:X}", chance.choice(list(story.CHANGES))
-        created = ({"Start", "End", "Center", "Position", "Base point", "Second point", "Major axis vector"})
-        names = [f"{point} {axis}" for point in sorted(created) for axis in "XYZ"]
-        names += ["Radius", "Start Angle", "End Angle", "Start angle", "End angle", "Minor radius", "Major radius",
-                  "Radius ratio", "Area", "Circumference", "Diameter", "LineScale", "Thickness"]
-        properties = [{"name": name, "value": chance.choice((0, chance.uniform(0.1, 1e4)))}
-                      for name in chance.sample(names, chance.randint(0, len(names)))]
-        others = {"LineColor": {"color": chance.choice(("byLayer", "byBlock", {"index": 7}, {"rgb": [1, 2, 255]}))},
-                  "Layer": {"id": chance.choice(("A0", "0a0", "FF0"))},
-                  "LineWeight": {"int": chance.choice((-3, -2, -1, 0, 5, 7, 100, 211))}, "PrintStyle": "Plain",
-                  "Transparency": {"transparency": chance.choice(("byLayer", {"alpha": chance.randint(0, 255)}))},
-                  "Erased": chance.choice(("NO", "YES", "yes"))}
-        properties += [{"name": name, "value": others[name]} for name in others if chance.random() < 0.4]
-        yield {"command": "DRAW"}
-        yield {"added": {"class": kind, "handle": handle, "properties": properties}}
-        yield {"modified": {"class": kind, "handle": handle, "properties": chance.sample(properties, len(properties))}}
-        if chance.random() < 0.1:
-            yield {"other": "UnknownEvent"}
-        yield {"changed": {"class": kind, "handle": handle, "property": {"name": "Radius", "value": 2.5}}}
-        yield {"end": "DRAW"}
-
-
 class ReplayTest(unittest.TestCase):
     scratch = Path(SCRATCH.name)
     stories = {}
@@ -151,6 +106,9 @@ class ReplayTest(unittest.TestCase):
 
     def run_macro(self, journal, language):
         macro = self.convert(journal, language)
+        answers = drawing.text(read(journal))
+        if answers:
+            macro.with_suffix(".drawing").write_text(answers, encoding="utf-8")
         refused = refused_texts(language.name)
         while True:
             try:
@@ -159,22 +117,28 @@ class ReplayTest(unittest.TestCase):
                 # What isn't known may only follow from what is: it has to be gone with it.
                 text = macro.read_text(encoding="utf-8-sig")
                 before = text
-                for operation, (message, refused_text) in refused.items():
+                for operation, (message, refused_text, instead) in refused.items():
                     if any(re.search(message, error) for error in refusal.errors):
-                        less = re.sub(refused_text, "", text)
+                        less = re.sub(refused_text, instead, text)
                         if less != text:
                             self.needed.add((language.name, operation))
                         text = less
-                self.assertNotEqual(before, text, f"{journal.name} in {language.name}: {refusal}")
+                if text == before:
+                    self.fail(f"{journal.name} in {language.name}: {refusal}")
                 macro.write_text(text, encoding="utf-8")
 
-    def assert_same_story(self, journal):
-        expected = story.of_journal(journal)
-        self.assertGreater(len(expected), 40)
+    @staticmethod
+    def written(journal, records):
+        journal.write_text("".join(json.dumps(record) + "\n" for record in records), encoding="utf-8")
+        return journal
+
+    def assert_same_story(self, journal, compared=lambda _: True):
+        expected = [step for step in story.of_journal(journal) if compared(step)]
+        self.assertGreater(len(expected), 20)
         for language in LANGUAGES:
             with self.subTest(language=language.name, journal=journal.name):
                 steps = expected if language.records_selections else story.without_selected(expected)
-                told = self.told(journal, language)
+                told = [step for step in self.told(journal, language) if compared(step)]
                 if language.runs:
                     self.assertIsNone(story.first_difference(steps, told))
 
@@ -186,9 +150,17 @@ class ReplayTest(unittest.TestCase):
     def test_any_values_are_replayed(self):
         for seed in range(1 if os.environ.get("KV_SANITIZED") == "1" else 2):
             journal = self.scratch / f"random{seed}.jsonl"
-            records = random_journal(random.Random(seed))
-            journal.write_text("".join(json.dumps(record) + "\n" for record in records), encoding="utf-8")
-            self.assert_same_story(journal)
+            self.assert_same_story(self.written(journal, journals.random_journal(random.Random(seed))))
+
+    def test_commands_do_what_their_journal_tells(self):
+        # The texts of selections clash with those of other commands in some languages; the other examples have them.
+        self.assert_same_story(COMMANDS, lambda step: step[0] != "select")
+
+    def test_the_search_of_a_trim_finds_each_new_entity(self):
+        journal = self.written(self.scratch / "trim.jsonl", journals.trim_journal())
+        self.assert_same_story(journal)
+        moved = [step[4] for step in self.told(journal, language_named("cpp")) if step[0] == "MoveEntities"]
+        self.assertEqual(moved, [[f"{drawing.FOUND} of window {number}"] for number in range(1, 10)])
 
     def test_drawings_draw_each_object_once_on_its_layer(self):
         self.assertEqual(len(DRAWINGS), 6)
@@ -202,10 +174,10 @@ class ReplayTest(unittest.TestCase):
 
     def test_buttons_do_in_a_browser_what_the_scripts_do(self):
         language = language_named("javascript")
-        journals = [*EXAMPLES, *DRAWINGS]
-        for journal in journals:
+        shown = [*EXAMPLES, *DRAWINGS]
+        for journal in shown:
             self.told(journal, language)
-        pages = [self.macro(journal, language) for journal in journals]
+        pages = [self.macro(journal, language) for journal in shown]
         recorded, asked = browser.run_pages(pages, language.page_script())
         for page, found in zip(pages, recorded):
             with self.subTest(page=page.name):
@@ -216,7 +188,7 @@ class ReplayTest(unittest.TestCase):
 
     def test_each_refused_text_is_met(self):
         for language in LANGUAGES:
-            for journal in (*EXAMPLES, *DRAWINGS):
+            for journal in (*EXAMPLES, COMMANDS, *DRAWINGS):
                 self.told(journal, language)
             known = {(language.name, operation) for operation in refused_texts(language.name)}
             self.assertEqual(known - self.needed, set(), "compiles by now: take it out of not_compiling.txt")

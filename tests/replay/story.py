@@ -11,14 +11,17 @@ A story is a list of steps, the same in every language:
     ["option", constant, value]
     ["select", object or None, ...]               the objects that a selection names
 
-Only what this reader knows is told: the simple curves, prompts, options, selections, erased objects. Everything else of
-a journal is passed over, here and by those who tell a macro's story.
+and those of actions.py. Only what this reader knows is told. Everything else of a journal is passed over, here and by
+those who tell a macro's story.
 """
-import json
 import math
 import re
 
+import actions
 import api
+import drawing
+import journal
+from journal import handle_of
 
 POINT = ("X", "Y", "Z")
 
@@ -114,10 +117,6 @@ class Failure(Exception):
     """An event that can't be converted: it ends its command's block."""
 
 
-def handle_of(text):
-    return int(text, 16)
-
-
 def six_digits(number):
     """A number as prompts and options show it."""
     return float(f"{number:.6g}")
@@ -182,8 +181,12 @@ class Reader:
         self.application_options = api.options("Application")
         self.steps = [["start", self.layout]] if collected and not in_model else []
         self.count = 0
-        self.known = set()
+        self.classes = {}  # of the objects that the journal made
         self.numbers = {}  # handle -> number of the story's object
+        self.windows = 0   # selections by a window
+        self.drawing, self.settings = ({key: value for record in filter(None, records)
+                                        for key, value in record.get(name, {}).items()}
+                                       for name in ("drawing", "settings"))
 
     def story(self):
         block = None
@@ -215,7 +218,7 @@ class Reader:
 
     def register(self, key, value):
         if key == "added":
-            self.known.add(handle_of(value["handle"]))
+            self.classes[handle_of(value["handle"])] = value["class"]
 
     def event(self, key, value):
         if key == "other":
@@ -262,10 +265,16 @@ class Reader:
                                 for w in wanted]]
         else:
             return
+        number = self.insert(insertion, handle_of(event["handle"]))
+        self.common(number, event.get("remaining", properties), new=True)
+
+    def insert(self, insertion, handle=None):
+        """The number of a new object."""
         self.count += 1
-        self.numbers[handle_of(event["handle"])] = self.count
+        if handle is not None:
+            self.numbers[handle] = self.count
         self.steps.append(["insert", *insertion])
-        self.common(self.count, event.get("remaining", properties), new=True)
+        return self.count
 
     def ellipse(self, properties):
         center = [self.number(name, properties) for name in _names("Center")]
@@ -310,9 +319,7 @@ class Reader:
         """The object that a dimension measures; one that the macro didn't draw is drawn for it."""
         if handle in self.numbers:
             return self.numbers[handle]
-        self.count += 1
-        self.steps.append(["insert", kind, numbers])
-        return self.count
+        return self.insert([kind, numbers])
 
     def dimension(self, kind, handle):
         dimension = self.objects[handle]
@@ -447,29 +454,22 @@ class Reader:
     def action(self, event):
         if not 0 <= event["id"] <= LAST_ACTION:
             raise Failure
-        if event["id"] == 17:
-            for handle in event["data"][0]["handles"]:
-                if handle_of(handle) in self.numbers:
-                    self.steps.append(["set", self.numbers[handle_of(handle)], "Erased", True])
+        for step in actions.ACTIONS.get(event["id"], lambda *_: ())(self, event["data"]):
+            self.steps.append(step)
 
+    def entities(self, item):
+        return [self.numbers.get(handle_of(handle)) for handle in item["handles"]]
 
-def read(path):
-    """The records of a journal; a last line that was cut off is left out."""
-    text = path.read_text(encoding="utf-8-sig")
-    lines = text.split("\n")
-    records = []
-    for number, line in enumerate(lines, 1):
-        if line.strip():
-            try:
-                records.append(json.loads(line))
-            except ValueError:
-                if number < len(lines):
-                    raise
-    return records
+    def trimmed(self, data):
+        """The windows in which the search of a trim looks for the new entities, which it has to find there."""
+        for handle, kind, point, _ in drawing.made_by(data, self.classes):
+            self.windows += 1
+            yield ["window", *([c + side * actions.EPSILON for c in point[:2]] + [point[2]] for side in (1, -1))]
+            self.numbers[handle] = f"{drawing.FOUND} of window {self.windows}"
 
 
 def of_journal(path):
-    return Reader(read(path)).story()
+    return Reader(journal.read(path)).story()
 
 
 def without_selected(steps):

@@ -8,6 +8,16 @@ INSERTIONS = {"InsertLine": "Line", "InsertCircle": "Circle", "InsertPoint": "Po
               "InsertEllipseDistanceToOtherAxis": "Ellipse", "InsertEllipseArcDistanceToOtherAxis": "EllipseArc"}
 
 
+# The calls of commands; the ones that count entities' types beside the entities have them before the entities.
+COMMANDS = {"TrimEntities", "FilletEntities", "MoveEntities", "CopyEntities", "MirrorEntities"}
+WITH_TYPES = {"CopyEntities", "MirrorEntities"}
+SYSTEMS = {"SetActiveCustomCoordinateSystemOrigin", "SaveActiveViewAs", "AlignActiveCustomCoordinateSystemXYPlane"}
+
+
+def is_text(value):
+    return isinstance(value, str) or isinstance(value, list) and bool(value) and isinstance(value[0], str)
+
+
 class Teller:
     """Turns recorded calls into the steps of story.py; calls that only fetch something are passed over."""
 
@@ -20,6 +30,8 @@ class Teller:
         self.added = {}      # array -> what was added to it
         self.selecting = []  # arrays of objects in the order of their first entry
         self.start = (None, None)  # number and name of the sheet that the macro's head asks for
+        self.windows = 0           # selections by a window
+        self.looked = None         # how many entities of the last one the macro has looked at
         self.begun = False         # true when the macro's head has got what draws
 
     def story(self, calls):
@@ -34,10 +46,19 @@ class Teller:
             self.insert(member[len("Insert"):], arguments)
         elif member == "InsertTable":
             self.insert("Table", arguments[:6] + arguments[7:])  # the type of a cell is a cast number
+        elif member.startswith("InsertHatchBy"):
+            self.insert(member[len("Insert"):], arguments)
+        elif member in COMMANDS:
+            numbers = arguments[:-2] + arguments[-1:] if member in WITH_TYPES else arguments
+            self.steps.append([member, *map(self.told, numbers)])
+        elif self.arranged(target, owner, member, arguments):
+            pass
         elif member == "GetGeneralDimension":
             self.numbers[arguments[-1]["out"]] = self.numbers[target]
-        elif owner == "Document" and member == "GetSheet" and not self.begun:
-            self.start = (arguments[-1]["out"], arguments[0])
+        elif owner == "Document" and member == "GetSheet":
+            self.values[arguments[-1]["out"]] = arguments[0]
+            if not self.begun:
+                self.start = (arguments[-1]["out"], arguments[0])
         elif owner == "Sheet" and member == "Activate" and target == self.start[0]:
             self.steps.append(["start", self.start[1]])
         elif member == "GetSketchManager":
@@ -62,9 +83,43 @@ class Teller:
         self.inserted += 1
         self.numbers[arguments[-1]["out"]] = self.inserted
         # Texts stand in macros as they are, whatever they hold: only numbers are compared.
-        numbers = [self.numbers.get(a["object"]) if isinstance(a, dict) else a for a in arguments[:-1] if not isinstance(a, str) and not (isinstance(a, list) and a and
-                                                                                 isinstance(a[0], str))]
-        self.steps.append(["insert", kind, numbers])
+        self.steps.append(["insert", kind, [self.told(value) for value in arguments[:-1] if not is_text(value)]])
+
+    def told(self, value):
+        """An argument with the story's numbers of its entities."""
+        if isinstance(value, list):
+            return [self.told(entry) for entry in value]
+        return self.numbers.get(value["object"]) if isinstance(value, dict) else value
+
+    def arranged(self, target, owner, member, arguments):
+        """True for the calls that arrange what is drawn: sheets, coordinate systems, groups, windows, colours."""
+        values = [self.values.get(a["object"]) if isinstance(a, dict) and "object" in a else a for a in arguments]
+        if owner == "CustomCoordinateSystemManager" and member in SYSTEMS:
+            self.steps.append(["system", member, *(v for v in values if v is not None and not isinstance(v, dict))])
+        elif owner == "CustomCoordinateSystem" and member == "Activate":
+            self.steps.append(["system", member])
+        elif member in ("CreateSheet", "CopySheet"):
+            self.steps.append(["sheet", member, *(v for v in values if isinstance(v, str))])
+        elif owner in ("Sheet", "Model") and member in ("Activate", "put_Name") and target != self.start[0]:
+            self.steps.append(["sheet", member, self.values.get(target, "Model"), *values])
+        elif member == "CreateGroup":
+            self.steps.append(["group", values[0]])
+        elif member == "Zoom":
+            self.steps.append(["zoom", *values])
+        elif member == "SetGradientData":
+            self.steps.append(["gradient", *values])
+        elif member == "SelectByWindow" and arguments[2]:
+            self.windows += 1
+            self.looked = 0
+            self.steps.append(["window", *values[:2]])
+        elif member == "ClearSelections":
+            self.looked = None
+        elif member == "GetSelectedObject" and self.looked is not None:
+            self.numbers[arguments[-1]["out"]] = f"{self.looked} of window {self.windows}"
+            self.looked += 1
+        else:
+            return False
+        return True
 
     def change(self, target, member, arguments):
         number = self.numbers[target]
@@ -75,7 +130,7 @@ class Teller:
             self.steps.append(["set", number, member[len("put_"):], value])
         elif member == "get_Transparency":
             self.owners[arguments[0]["out"]] = number
-        elif member.startswith("Set") and len(arguments) == 3:
+        elif member.startswith("Set") and len(arguments) == 3 and None not in arguments:
             # The coordinates that were only handed on are the ones that the getter gave, each its own mark.
             for axis, value, mark in zip("XYZ", arguments, (900000.5, 900001.5, 900002.5)):
                 if value != mark:

@@ -5,7 +5,10 @@
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
+#include <fstream>
 #include <functional>
+#include <map>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -31,6 +34,10 @@ inline std::function<bool()>& command()
     static std::function<bool()> hook;
     return hook;
 }
+
+// The enumerator of a name.
+template <class T>
+T named(const std::string& name);
 
 struct Numbered
 {
@@ -77,31 +84,137 @@ inline std::string object(const char* key, int number)
     return std::string("{\"") + key + "\": " + std::to_string(number) + "}";
 }
 
+// An entity of the drawing: its type's constant, and the numbers that its getters give.
+struct Entity
+{
+    std::string type;
+    std::map<std::string, std::vector<double>> values;
+};
+
+// What selections by a window find; drawing.py says how its file looks. Without the file it isn't there.
+class Drawing
+{
+public:
+    static Drawing& only()
+    {
+        static Drawing drawing;
+        return drawing;
+    }
+
+    void select() { m_selected = m_made < m_selections.size() ? &m_selections[m_made++] : nullptr; }
+
+    void clear() { m_selected = nullptr; }
+
+    // What the last window found.
+    const std::vector<Entity>* selection() const { return m_selected; }
+
+    void know(int number, const Entity& entity) { m_known[number] = &entity; }
+
+    const std::vector<double>* values(int number, const std::string& getter) const
+    {
+        const auto known = m_known.find(number);
+        if (known == m_known.end())
+            return nullptr;
+        const auto found = known->second->values.find(getter);
+        return found == known->second->values.end() ? nullptr : &found->second;
+    }
+
+private:
+    Drawing()
+    {
+        const char* name = std::getenv("KV_DRAWING");
+        std::ifstream file(name ? name : "");
+        for (std::string line; std::getline(file, line);)
+        {
+            std::istringstream words(line);
+            std::string word;
+            words >> word;
+            if (word == "window")
+                m_selections.emplace_back();
+            else if (word == "entity")
+            {
+                m_selections.back().emplace_back();
+                words >> m_selections.back().back().type;
+            }
+            else if (words >> word)
+                for (double value; words >> value;)
+                    m_selections.back().back().values[word].push_back(value);
+        }
+    }
+
+    std::vector<std::vector<Entity>> m_selections;
+    std::size_t m_made = 0;
+    const std::vector<Entity>* m_selected = nullptr;
+    std::map<int, const Entity*> m_known;
+};
+
 // One call; it is written when it ends, so that the objects that it gives back are in it.
 class Call
 {
 public:
     Call(const Numbered* target, const char* type, const char* member)
-        : m_text("{\"object\": " + std::to_string(target->number) + ", \"class\": \"" + type + "\", \"member\": \"" +
+        : m_target(target->number), m_member(member),
+          m_text("{\"object\": " + std::to_string(target->number) + ", \"class\": \"" + type + "\", \"member\": \"" +
                  member + "\", \"arguments\": [")
     {
     }
 
-    ~Call() { std::fprintf(output(), "%s]}\n", m_text.c_str()); }
+    ~Call()
+    {
+        std::fprintf(output(), "%s]}\n", m_text.c_str());
+        if (m_member == "SelectByWindow")
+            Drawing::only().select();
+        else if (m_member == "ClearSelections")
+            Drawing::only().clear();
+    }
 
     void add(const std::string& argument)
     {
-        m_text += m_first ? "" : ", ";
+        m_text += m_arguments.empty() ? "" : ", ";
         m_text += argument;
-        m_first = false;
+        m_arguments.push_back(argument);
     }
 
-    // A number that the API gives back: it tells its place, so that a macro that hands it on shows where it is from.
-    double mark() { return 900000.5 + m_marks++; }
+    // A number that the API gives back: the drawing's, or it tells its place, so that a macro that hands it on shows
+    // where it is from.
+    double mark()
+    {
+        if (!m_marks)
+            m_getter = m_member + (m_arguments.empty() ? "" : m_arguments[0]);
+        const std::vector<double>* values = Drawing::only().values(m_target, m_getter);
+        return values ? values->at(m_marks++) : 900000.5 + m_marks++;
+    }
+
+    // A whole number that the API gives back.
+    long whole() const
+    {
+        const std::vector<Entity>* selection = Drawing::only().selection();
+        return selection && m_member == "GetSelectedObjectCount" ? static_cast<long>(selection->size()) : 1;
+    }
+
+    // The type of the entity that the API gives back. Without a drawing macros may pass an address that leads nowhere.
+    template <class T>
+    void type(T* type) const
+    {
+        if (const Entity* entity = selected())
+            *type = named<T>(entity->type);
+    }
+
+    // An object that the API gives back.
+    kvObject* entity() const;
 
 private:
+    const Entity* selected() const
+    {
+        const std::vector<Entity>* selection = Drawing::only().selection();
+        return selection && m_member == "GetSelectedObject" ? &selection->at(std::stoul(m_arguments.at(1))) : nullptr;
+    }
+
+    int m_target;
+    std::string m_member;
     std::string m_text;
-    bool m_first = true;
+    std::vector<std::string> m_arguments;
+    std::string m_getter;
     int m_marks = 0;
 };
 

@@ -14,7 +14,8 @@ const lines = [];
 const context = vm.createContext({});
 for (const file of [api, standIns])
     vm.runInContext(fs.readFileSync(file, "utf8"), context, {filename: file});
-const library = context.replayLibrary(call => lines.push(JSON.stringify(call)));
+const drawing = process.env.KV_DRAWING ? fs.readFileSync(process.env.KV_DRAWING, "utf8") : "";
+const library = context.replayLibrary(call => lines.push(JSON.stringify(call)), drawing);
 context.kjScriptManager = function () { return library; };
 vm.runInContext(script[0], context, {filename: page});
 vm.runInContext(button[1], context, {filename: page});

@@ -4,8 +4,27 @@
 
 var kvStringArray = [];
 
-function replayLibrary(record)
+// What selections by a window find; drawing.py says how the text looks. Without it no window is answered.
+function readDrawing(text)
 {
+    const selections = [];
+    for (const words of text.split("\n").map(line => line.split(" ")))
+    {
+        const last = selections[selections.length - 1];
+        if (words[0] === "window")
+            selections.push([]);
+        else if (words[0] === "entity")
+            last.push({type: words[1], values: {}});
+        else if (words[0] === "value")
+            last[last.length - 1].values[words[1]] = words.slice(2).map(Number);
+    }
+    return selections;
+}
+
+function replayLibrary(record, drawing = "")
+{
+    const selections = readDrawing(drawing);
+    let selected;  // what the last window found
     let count = 0;
     const ANY = "any class";
 
@@ -62,15 +81,16 @@ function replayLibrary(record)
         return value && value.replayed ? {object: value.replayed.number} : value === undefined ? null : value;
     }
 
-    // What the API gives back for an argument or a result: [value, how it is recorded].
-    function given(type, marks)
+    // What the API gives back for an argument or a result: [value, how it is recorded]. Numbers with a fraction are the
+    // drawing's, or tell their place, so that a macro that hands them on shows where they are from.
+    function given(type, asked)
     {
         switch (type)
         {
         case "real":
-            return [900000.5 + marks.count++, null];
+            return [asked.values ? asked.values[asked.marks++] : 900000.5 + asked.marks++, null];
         case "int":
-            return [1, null];
+            return [asked.member === "GetSelectedObjectCount" && selected ? selected.length : 1, null];
         case "bool":
             return [true, null];
         case "text":
@@ -78,9 +98,14 @@ function replayLibrary(record)
         case "objects":
             return [[1, 2, 3, 4].map(() => make(ANY)), null];
         default:
+            const entity = asked.member === "GetSelectedObject" && selected && selected[asked.written[1]];
+            if (type === "kvObjectType_e" && entity)
+                return [entity.type, null];
             if (type in API.enumerations)
                 return [API.enumerations[type][0], null];
-            const made = make(type === "object" ? ANY : type);
+            const made = make(type !== "object" ? type : entity ? entity.type.slice(2, -"Type".length) : ANY);
+            if (type === "object" && entity)
+                made.replayed.values = entity.values;
             return [made, {out: made.replayed.number}];
         }
     }
@@ -101,7 +126,8 @@ function replayLibrary(record)
 
     function call(target, member, values)
     {
-        const marks = {count: 0};
+        const getter = member.name + (typeof values[0] === "number" ? values[0] : "");
+        const asked = {member: member.name, written: values, values: target.values && target.values[getter], marks: 0};
         const recorded = [];
         const results = [];
         let next = 0;
@@ -111,7 +137,7 @@ function replayLibrary(record)
                 recorded.push(told(values[next++]));
             if (argument.returned)
             {
-                const [value, text] = given(argument.type, marks);
+                const [value, text] = given(argument.type, asked);
                 results.push([argument.type, value]);
                 if (!argument.written)
                     recorded.push(text);
@@ -121,12 +147,16 @@ function replayLibrary(record)
         }
         if (member.result)
         {
-            const [value, text] = given(member.result, marks);
+            const [value, text] = given(member.result, asked);
             results.push([member.result, value]);
             if (text)
                 recorded.push(text);
         }
         record({object: target.number, class: member.owner, member: member.name, arguments: recorded});
+        if (member.name === "SelectByWindow")
+            selected = selections.shift();
+        else if (member.name === "ClearSelections")
+            selected = undefined;
         return result(results, member);
     }
 
