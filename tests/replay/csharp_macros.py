@@ -6,6 +6,7 @@ import csharp_stand_ins
 from language import HERE, Language
 
 COMPILE = ("mcs", "-langversion:3", "-nologo", "-warn:0")
+LIBRARY = (*COMPILE, "-unsafe", "-target:library", "-out:Morvane.dll", "Morvane.cs", "recorder.cs")
 DRIVER = """static class Driver
 {{
     static void Main()
@@ -26,7 +27,7 @@ class CSharp(Language):
         """The automation library."""
         (self.folder / "Morvane.cs").write_text(csharp_stand_ins.source(), encoding="utf-8")
         shutil.copy(HERE / "csharp" / "recorder.cs", self.folder)
-        self.tool(*COMPILE, "-unsafe", "-target:library", "-out:Morvane.dll", "Morvane.cs", "recorder.cs")
+        self.tool(*LIBRARY)
 
     def run(self, macro):
         """The calls that a macro makes. Its own program looks for a running application; it is compiled, too."""

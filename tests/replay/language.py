@@ -26,6 +26,7 @@ class Language:
     # only in the macro's text.
     records_selections = True
     runs = True       # or is only compiled
+    missing = None    # why the tools of the language can't be used here
 
     def __init__(self, folder):
         """Prepares the stand-ins in a folder of their own."""

@@ -165,8 +165,9 @@ namespace Replay
 
         static string Json(object value)
         {
-            if (value is DispatchWrapper)
-                value = ((DispatchWrapper)value).WrappedObject;
+            // The system's, or the one of a macro's driver where the system's wraps nothing.
+            if (value != null && value.GetType().Name == "DispatchWrapper")
+                value = value.GetType().GetProperty("WrappedObject").GetValue(value, null);
             if (value == null)
                 return "null";
             if (value is string)
