@@ -17,10 +17,10 @@ export CTEST_PARALLEL_LEVEL = $(JOBS)
 
 MAKEFLAGS += --no-print-directory
 .DEFAULT_GOAL = help
-.PHONY: help demo build test bench fuzz format lint sanitize clean
+.PHONY: help demo build test replay-all bench fuzz format lint sanitize clean
 
 help: ## list the commands
-	@sed -n 's/^\([a-z]*\):.* ## /  make \1\t/p' Makefile | expand -t 18
+	@sed -n 's/^\([a-z-]*\):.* ## /  make \1\t/p' Makefile | expand -t 20
 
 demo: build ## convert the example journal into every language, under out/demo
 	@tools/demo
@@ -31,6 +31,11 @@ build: ## build the program: build/release/bin/kvmacro
 
 test: ## build and run every test
 	@$(SETUP) test
+	$(call compile,test)
+	@ctest --preset test
+
+replay-all: ## the tests, with the tools that replay VB.NET and VBA macros, too
+	@$(SETUP) replay
 	$(call compile,test)
 	@ctest --preset test
 

@@ -33,6 +33,9 @@ class Language:
         self.folder = Path(folder)
         self.prepare()
 
+    def close(self):
+        """Ends what `prepare` began."""
+
     def tool(self, *command, **variables):
         """Runs a tool in the folder of the stand-ins, with variables of its environment, and gives what it printed."""
         done = subprocess.run(command, cwd=self.folder, env={**os.environ, "LC_ALL": "C", **variables},
