@@ -73,6 +73,7 @@ QString CZtConverterKVAPIImpl::DeclareVariable(const ObjectPair& object)
 std::vector<ObjectPair> CZtConverterKVAPIImpl::CollectCommandObjects(const CZtJournal& childEvents)
 {
     std::vector<ObjectPair> objects;
+    objects.reserve(childEvents.size());
     for (const OdRxObjectPtr& child : childEvents)
     {
         if (!child || child->queryX(CZtObjectAdded::desc()) == nullptr)
@@ -147,6 +148,7 @@ ResultCode CZtConverterKVAPIImpl::ConvertUserCommand(MacroWriter& writer, const 
     bool linetypeShapeStyle = false;
     std::vector<std::pair<OdRxObjectPtr, QString>> eventTexts;
     const std::size_t count = childEvents.size();
+    eventTexts.reserve(count);
     for (std::size_t i = 0; i < count; ++i)
     {
         const OdRxObjectPtr& child = childEvents[i];
@@ -187,7 +189,7 @@ ResultCode CZtConverterKVAPIImpl::ConvertUserCommand(MacroWriter& writer, const 
         if (!text.isEmpty())
         {
             allEmpty = false;
-            eventTexts.emplace_back(child, text);
+            eventTexts.emplace_back(child, std::move(text));
         }
     }
 

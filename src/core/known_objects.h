@@ -5,7 +5,8 @@
 #include "host/odrx/class.h"
 
 #include <cstdint>
-#include <unordered_map>
+
+#include <tsl/robin_map.h>
 
 // An object's class and its number, as of the moment that the number was given.
 struct ObjectPair
@@ -25,9 +26,10 @@ public:
     [[nodiscard]] const ObjectPair* Find(OdDbHandle handle) const
     {
         const auto found = objects_.find(handle);
-        return found != objects_.end() ? &found->second : nullptr;
+        return found != objects_.end() ? &found.value() : nullptr;
     }
 
 private:
-    std::unordered_map<OdDbHandle, ObjectPair> objects_;
+    // Handles mostly follow each other: in a flat table so do their entries.
+    tsl::robin_map<OdDbHandle, ObjectPair> objects_;
 };

@@ -46,8 +46,8 @@ std::optional<MeasuredCurve> CZtConverterKVAPIObject::MeasuredBy(const Creation&
     {
         return std::nullopt;
     }
-    const QString* known = createdObjects_.FindName(id);
-    curve.isKnown = known != nullptr;
+    const std::optional<QString> known = createdObjects_.FindName(id);
+    curve.isKnown = known.has_value();
     curve.name = curve.isKnown ? *known : QString::fromLatin1(stem).arg(creation.variable);
     return curve;
 }
@@ -56,7 +56,7 @@ QString CZtConverterKVAPIObject::MeasuredLine(const OdDbObjectId& line, const QS
                                               const OdGePoint3d& start, const OdGePoint3d& end, QString& head,
                                               QString& tail)
 {
-    if (const QString* known = createdObjects_.FindName(line); known != nullptr && line.openObject())
+    if (const std::optional<QString> known = createdObjects_.FindName(line); known && line.openObject())
     {
         return *known;
     }

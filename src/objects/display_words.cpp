@@ -17,7 +17,8 @@ const DisplayWords::Word& DisplayWords::Look(Context context, const char* word) 
         {
             const QLatin1String plain(word);
             const QString translation = QCoreApplication::translate(names.at(index), word);
-            found = all.insert(word, {plain, translation, LengthBit(plain.size()) | LengthBit(translation.size())});
+            found = all.insert(word, {plain, translation, LengthBit(plain.size()) | LengthBit(translation.size()),
+                                      translation != plain});
         }
         last = {word, *found};
     }

@@ -4,6 +4,7 @@
 #include <QtCore/QHash>
 #include <QtCore/QString>
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 
@@ -25,6 +26,14 @@ public:
         QLatin1String plain;
         QString translation;
         std::uint64_t lengths = 0;
+        bool isTranslated = false;
+
+        [[nodiscard]] bool IsEither(const QString& text) const
+        {
+            return (text.size() == translation.size() &&
+                    std::equal(text.cbegin(), text.cend(), translation.cbegin())) ||
+                   (isTranslated && text == plain);
+        }
     };
 
     // The word as the user's language has it. The word must be a literal: it is known by its address. Valid until the

@@ -32,7 +32,7 @@ QString CZtConverterKVAPIObject::CreateGroup(const Creation& creation)
 
 QString CZtConverterKVAPIObject::MemberName(const OdDbObjectId& id, QStringList& names)
 {
-    if (const QString* known = createdObjects_.FindName(id))
+    if (const std::optional<QString> known = createdObjects_.FindName(id))
     {
         names.append(*known);
         return {};

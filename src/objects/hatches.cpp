@@ -52,7 +52,7 @@ QString CZtConverterKVAPIObject::HatchByEntities(const QString& target, const Od
             names.append(helper);
             helpers.append(helper);
         }
-        else if (const QString* known = createdObjects_.FindName(id))
+        else if (const std::optional<QString> known = createdObjects_.FindName(id))
         {
             names.append(*known);
         }

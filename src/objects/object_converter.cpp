@@ -145,15 +145,19 @@ ResultCode CZtConverterKVAPIObject::ConvertCreation(const OdRxClass* objectClass
         {OdDbTableStyle::desc(), &CZtConverterKVAPIObject::CreateTableStyle},
     };
     text.clear();
-    if (Converter().FindKnownObject(handle) == nullptr)
+    const ObjectPair* known = Converter().FindKnownObject(handle);
+    if (known == nullptr)
     {
         return ResultNormal;
     }
     QString variable;
-    static_cast<void>(GetObjectByHandle(handle, objectClass, variable));
-    if (CZtDocument* document = ACTIVE_DOCUMENT(); document != nullptr && !variable.isEmpty())
+    if (QString typeName; GetObjectTypeName(handle, objectClass, typeName))
     {
-        createdObjects_.Set(document->GetZtDatabase()->getOdDbObjectId(handle), variable);
+        variable = VariableName(typeName, known->number, PlainPointerMark::Removed);
+        if (CZtDocument* document = ACTIVE_DOCUMENT())
+        {
+            createdObjects_.Set(document->GetZtDatabase()->getOdDbObjectId(handle), typeName, known->number);
+        }
     }
     ConsumedProperties consumed;
     if (const auto branch = branches.find(objectClass); branch != branches.end())

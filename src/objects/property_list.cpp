@@ -19,15 +19,21 @@ bool IsGroup(const char* name)
 PropertyList::PropertyList(const CZtPropertyList& elements, const DisplayWords& words, std::uint64_t hostContext)
     : words_(words), hostContext_(hostContext)
 {
-    elements_.reserve(elements.size());
-    for (const CZtPropertyElementPtr& element : elements)
+    elements_.resize(static_cast<int>(elements.size()));
+    std::ranges::transform(elements, elements_.begin(), [](const auto& element) { return element.get(); });
+    NoteLengths();
+}
+
+void PropertyList::NoteLengths()
+{
+    lengths_ = 0;
+    for (const CZtPropertyElement* element : elements_)
     {
-        elements_.push_back(element.get());
         lengths_ |= DisplayWords::LengthBit(element->GetName().text().size());
     }
 }
 
-PropertyList::Elements::const_iterator PropertyList::Find(const char* name) const
+PropertyElements::const_iterator PropertyList::Find(const char* name) const
 {
     if (IsGroup(name))
     {
@@ -41,14 +47,11 @@ PropertyList::Elements::const_iterator PropertyList::Find(const char* name) cons
     const DisplayWords::Word& word = words_.Look(DisplayWords::Context::PropertyTypes, name);
     if ((word.lengths & lengths_) == 0)
     {
-        return elements_.end();
+        return elements_.cend();
     }
     return std::ranges::find_if(elements_,
                                 [&](const CZtPropertyElement* element)
-                                {
-                                    const QString& own = element->GetName();
-                                    return own == word.translation || own == word.plain;
-                                });
+                                { return word.IsEither(element->GetName().text()); });
 }
 
 OdArray<OdGePoint3d> PropertyList::TakePoints(const char* name, ConsumedProperties* consumed)
@@ -94,20 +97,20 @@ std::vector<PropertyList::Numbered> PropertyList::TakeSeries(const char* stem, C
     const auto isOther = [&](const CZtPropertyElement* element)
     { return !element->GetName().text().startsWith(QLatin1String(stem)); };
     const auto taken = std::stable_partition(elements_.begin(), elements_.end(), isOther);
-    consumed.insert(consumed.end(), taken, elements_.end());
+    consumed.append(taken, static_cast<int>(elements_.end() - taken));
     elements_.erase(taken, elements_.end());
     return series;
 }
 
 bool PropertyList::Holds(const char* name) const
 {
-    return Find(name) != elements_.end();
+    return Find(name) != elements_.cend();
 }
 
 CZtVariant PropertyList::TakeProperty(const char* name, ConsumedProperties* consumed, CZtVariant* tag)
 {
     const auto found = Find(name);
-    if (found == elements_.end())
+    if (found == elements_.cend())
     {
         return {};
     }
@@ -154,4 +157,5 @@ void PropertyList::DropConsumed(const ConsumedProperties& consumed)
             elements_.erase(same);
         }
     }
+    NoteLengths();
 }

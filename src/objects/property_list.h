@@ -5,8 +5,13 @@
 #include "host/odrx/array.h"
 #include "objects/display_words.h"
 
+#include <QtCore/QVarLengthArray>
+
+// Elements of an event. Most events have few, which then need no memory of their own.
+using PropertyElements = QVarLengthArray<const CZtPropertyElement*, 16>;
+
 // The elements that a pass has taken, in the order of taking.
-using ConsumedProperties = std::vector<const CZtPropertyElement*>;
+using ConsumedProperties = PropertyElements;
 
 class PropertyList
 {
@@ -18,7 +23,7 @@ public:
 
     // One element alone.
     PropertyList(const CZtPropertyElement& element, const DisplayWords& words, std::uint64_t hostContext)
-        : elements_{&element}, lengths_(DisplayWords::LengthBit(element.GetName().text().size())), words_(words),
+        : elements_({&element}), lengths_(DisplayWords::LengthBit(element.GetName().text().size())), words_(words),
           hostContext_(hostContext)
     {
     }
@@ -60,11 +65,10 @@ public:
     void DropConsumed(const ConsumedProperties& consumed);
 
 private:
-    using Elements = std::vector<const CZtPropertyElement*>;
+    [[nodiscard]] PropertyElements::const_iterator Find(const char* name) const;
+    void NoteLengths();
 
-    [[nodiscard]] Elements::const_iterator Find(const char* name) const;
-
-    Elements elements_;
+    PropertyElements elements_;
     std::uint64_t lengths_ = 0; // of the names in the list from the beginning, as DisplayWords::Word has them
     const DisplayWords& words_;
     std::uint64_t hostContext_;

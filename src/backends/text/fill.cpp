@@ -121,6 +121,9 @@ void ParsedTemplate::AppendFilled(QString& out, std::span<const FillValue> value
     if (size > std::size_t{std::numeric_limits<int>::max() / 2})
         throw std::length_error("a generated text is too long");
 
+    // A text grows by many of these: each growth takes more than it needs.
+    if (out.capacity() < static_cast<int>(size) && before != 0)
+        out.reserve(static_cast<int>(size + size / 2));
     out.resize(static_cast<int>(size));
     char16_t* at = reinterpret_cast<char16_t*>(out.data()) + before;
     const char16_t* plain = plainText_.data();
