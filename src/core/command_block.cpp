@@ -1,5 +1,6 @@
 // One user command with its children becomes one scoped block of the macro, or no text at all.
 #include "core/converter_impl.h"
+#include "core/event_cast.h"
 #include "core/macro_writer.h"
 #include "core/type_table.h"
 #include "core/variable_names.h"
@@ -61,13 +62,10 @@ private:
 
 QString CZtConverterKVAPIImpl::DeclareVariable(const ObjectPair& object)
 {
-    QString name;
-    QString type;
-    if (GetObjectTypeNames(object.objectClass, name, type) != ResultNormal)
-    {
-        return {};
-    }
-    return WriteDeclareVariable(name, VariableStem(name, PlainPointerMark::Removed), object.number);
+    const QString* name = VariableType(object.objectClass);
+    return name != nullptr
+               ? WriteDeclareVariable(*name, VariableStem(*name, PlainPointerMark::Removed), object.number)
+               : QString();
 }
 
 std::vector<ObjectPair> CZtConverterKVAPIImpl::CollectCommandObjects(const CZtJournal& childEvents)
@@ -76,11 +74,11 @@ std::vector<ObjectPair> CZtConverterKVAPIImpl::CollectCommandObjects(const CZtJo
     objects.reserve(childEvents.size());
     for (const OdRxObjectPtr& child : childEvents)
     {
-        if (!child || child->queryX(CZtObjectAdded::desc()) == nullptr)
+        const auto* added = kv::EventAs<CZtObjectAdded>(child.get());
+        if (added == nullptr)
         {
             continue;
         }
-        const auto added = OdSmartPtr<CZtObjectAdded>::cast(child);
         const OdRxClass* objectClass = added->GetObjectClass();
         static_cast<void>(ObjectConverter()); // nothing can be named without the object logic
         if (objectClass == nullptr || !kv::FactsOf(objectClass).isSupported)
@@ -129,11 +127,10 @@ ResultCode CZtConverterKVAPIImpl::ConvertUserCommand(MacroWriter& writer, const 
     for (const ObjectPair& object : CollectCommandObjects(childEvents))
     {
         blockHead += DeclareVariable(object);
-        QString name;
-        QString type;
-        if (IsFilledByAction(object.objectClass) && GetObjectTypeNames(object.objectClass, name, type) == ResultNormal)
+        const QString* name = IsFilledByAction(object.objectClass) ? VariableType(object.objectClass) : nullptr;
+        if (name != nullptr)
         {
-            pendingVariables.append(VariableName(name, object.number, PlainPointerMark::Removed));
+            pendingVariables.append(VariableName(*name, object.number, PlainPointerMark::Removed));
         }
     }
     const QString pendingVariable = pendingVariables.isEmpty() ? QString() : pendingVariables.back();
@@ -146,16 +143,16 @@ ResultCode CZtConverterKVAPIImpl::ConvertUserCommand(MacroWriter& writer, const 
     bool anonymousAction = false;
     bool allEmpty = true;
     bool linetypeShapeStyle = false;
-    std::vector<std::pair<OdRxObjectPtr, QString>> eventTexts;
+    std::vector<std::pair<const OdRxObject*, QString>> eventTexts;
     const std::size_t count = childEvents.size();
     eventTexts.reserve(count);
     for (std::size_t i = 0; i < count; ++i)
     {
-        const OdRxObjectPtr& child = childEvents[i];
+        OdRxObject* child = childEvents[i].get();
         QString text;
-        if (child && child->queryX(CZtCustomAction::desc()) != nullptr)
+        if (const auto* action = kv::EventAs<CZtCustomAction>(child))
         {
-            const std::int32_t id = OdSmartPtr<CZtCustomAction>::cast(child)->GetActionId();
+            const std::int32_t id = action->GetActionId();
             text = pendingVariable;
             if (id == kBackgroundOptions)
             {
@@ -172,8 +169,8 @@ ResultCode CZtConverterKVAPIImpl::ConvertUserCommand(MacroWriter& writer, const 
                 --counters_.IndentLevel;
             }
         }
-        const ResultCode result = ConvertEvent(child.get(), text);
-        if (child)
+        const ResultCode result = ConvertEvent(child, text);
+        if (child != nullptr)
         {
             writer.Converted(*child, text, result);
         }
@@ -181,11 +178,8 @@ ResultCode CZtConverterKVAPIImpl::ConvertUserCommand(MacroWriter& writer, const 
         {
             break;
         }
-        if (child && child->queryX(CZtObjectAdded::desc()) != nullptr &&
-            IsLinetypeShapeStyle(*OdSmartPtr<CZtObjectAdded>::cast(child)))
-        {
-            linetypeShapeStyle = true;
-        }
+        const auto* added = kv::EventAs<CZtObjectAdded>(child);
+        linetypeShapeStyle = linetypeShapeStyle || (added != nullptr && IsLinetypeShapeStyle(*added));
         if (!text.isEmpty())
         {
             allEmpty = false;
@@ -199,7 +193,7 @@ ResultCode CZtConverterKVAPIImpl::ConvertUserCommand(MacroWriter& writer, const 
     }
     for (const auto& [child, text] : eventTexts)
     {
-        writer.Write(child.get(), text);
+        writer.Write(child, text);
     }
     // With an anonymous action the indent level stays one higher for the rest of the macro: existing macros have it.
     if (!hasOwnScope && !anonymousAction)

@@ -65,8 +65,9 @@ public:
     // The object logic of the same language. Throws OdError 20 when there is none.
     [[nodiscard]] CZtConverterKVAPIObject& ObjectConverter() const;
 
-    // The name and the type constant of a class in the API: the bare class word, in the C++ API its pointer type. A
-    // class without a row gives -5001 and leaves both untouched.
+    // The type of a class's variables: its bare word in the API, in the C++ API its pointer type; null when the class
+    // has no row. And together with its type constant: a class without a row gives -5001 and leaves both untouched.
+    [[nodiscard]] static const QString* VariableType(const OdRxClass* objectClass);
     [[nodiscard]] static ResultCode GetObjectTypeNames(const OdRxClass* objectClass, QString& name, QString& type);
 
     // The option that a system variable stands for, in the document or in the application. Gives -5001, an empty

@@ -1,5 +1,6 @@
 // The one router of events and of custom actions.
 #include "core/converter_impl.h"
+#include "core/event_cast.h"
 #include "core/type_table.h"
 #include "core/variable_names.h"
 #include "objects/object_converter.h"
@@ -8,12 +9,6 @@ namespace
 {
 // In this mode prompt answers, selections and all system variables are converted.
 constexpr std::int32_t RecordsEverything = 1;
-
-template <class Event>
-Event* As(OdRxObject* event)
-{
-    return static_cast<Event*>(event->queryX(Event::desc()));
-}
 } // namespace
 
 ResultCode CZtConverterKVAPIImpl::ConvertEvent(OdRxObject* event, QString& text)
@@ -22,33 +17,33 @@ ResultCode CZtConverterKVAPIImpl::ConvertEvent(OdRxObject* event, QString& text)
     {
         return ResultNormal;
     }
-    if (const auto* interaction = As<CZtUserInteraction>(event))
+    if (const auto* interaction = kv::EventAs<CZtUserInteraction>(event))
     {
         return recordingMode_ == RecordsEverything ? ConvertUserInteraction(*interaction, text) : ResultNormal;
     }
-    if (const auto* added = As<CZtObjectAdded>(event))
+    if (const auto* added = kv::EventAs<CZtObjectAdded>(event))
     {
         return ObjectConverter().ConvertObjectAdded(*added, text);
     }
-    if (const auto* modified = As<CZtObjectModified>(event))
+    if (const auto* modified = kv::EventAs<CZtObjectModified>(event))
     {
         FetchChangedLayer(*modified, text);
         return ObjectConverter().ConvertObjectModified(*modified, text);
     }
-    if (const auto* variable = As<CZtSysVarChanged>(event))
+    if (const auto* variable = kv::EventAs<CZtSysVarChanged>(event))
     {
         const bool isViewport = variable->GetVariableName().compareNoCase("CVPORT") == 0;
         return recordingMode_ == RecordsEverything || isViewport ? ConvertSysVarChanged(*variable, text) : ResultNormal;
     }
-    if (auto* changed = As<CZtPropertyChanged>(event))
+    if (auto* changed = kv::EventAs<CZtPropertyChanged>(event))
     {
         return ObjectConverter().ConvertPropertyChanged(*changed, text);
     }
-    if (const auto* selection = As<CZtUserSelection>(event))
+    if (const auto* selection = kv::EventAs<CZtUserSelection>(event))
     {
         return recordingMode_ == RecordsEverything ? ConvertUserSelection(*selection, text) : ResultNormal;
     }
-    if (const auto* action = As<CZtCustomAction>(event))
+    if (const auto* action = kv::EventAs<CZtCustomAction>(event))
     {
         return ConvertCustomAction(*action, text);
     }

@@ -58,15 +58,25 @@ QString VariableName(const QString& typeName, std::int32_t number, PlainPointerM
     return stem + QLatin1String(digits.data(), static_cast<int>(end - digits.data()));
 }
 
-ResultCode CZtConverterKVAPIImpl::GetObjectTypeNames(const OdRxClass* objectClass, QString& name, QString& type)
+const QString* CZtConverterKVAPIImpl::VariableType(const OdRxClass* objectClass)
 {
     const kv::ObjectType* row = kv::FactsOf(objectClass).type;
     if (row == nullptr)
     {
+        return nullptr;
+    }
+    return CurrentLanguage() == MacroLanguage::CppApi ? &row->variableType : &row->word;
+}
+
+ResultCode CZtConverterKVAPIImpl::GetObjectTypeNames(const OdRxClass* objectClass, QString& name, QString& type)
+{
+    const QString* variableType = VariableType(objectClass);
+    if (variableType == nullptr)
+    {
         return ResultError;
     }
-    name = CurrentLanguage() == MacroLanguage::CppApi ? row->variableType : row->word;
-    type = row->constant;
+    name = *variableType;
+    type = kv::FactsOf(objectClass).type->constant;
     return ResultNormal;
 }
 

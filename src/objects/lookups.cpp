@@ -6,11 +6,12 @@
 
 bool CZtConverterKVAPIObject::GetObjectTypeName(OdDbHandle handle, const OdRxClass* objectClass, QString& typeName)
 {
-    QString constant;
-    if (CZtConverterKVAPIImpl::GetObjectTypeNames(objectClass, typeName, constant) != ResultNormal)
+    const QString* variableType = CZtConverterKVAPIImpl::VariableType(objectClass);
+    if (variableType == nullptr)
     {
         return false;
     }
+    typeName = *variableType;
     if (objectClass == OdDbViewTableRecord::desc() && ACTIVE_DOCUMENT() != nullptr)
     {
         const OdDbObjectPtr object = ACTIVE_DOCUMENT()->GetZtDatabase()->getOdDbObjectId(handle).openObject();

@@ -21,16 +21,18 @@ PropertyList::PropertyList(const CZtPropertyList& elements, const DisplayWords& 
 {
     elements_.resize(static_cast<int>(elements.size()));
     std::ranges::transform(elements, elements_.begin(), [](const auto& element) { return element.get(); });
-    NoteLengths();
 }
 
-void PropertyList::NoteLengths()
+std::uint64_t PropertyList::Lengths() const
 {
-    lengths_ = 0;
-    for (const CZtPropertyElement* element : elements_)
+    if (lengths_ == 0)
     {
-        lengths_ |= DisplayWords::LengthBit(element->GetName().text().size());
+        for (const CZtPropertyElement* element : elements_)
+        {
+            lengths_ |= DisplayWords::LengthBit(element->GetName().text().size());
+        }
     }
+    return lengths_;
 }
 
 PropertyElements::const_iterator PropertyList::Find(const char* name) const
@@ -45,7 +47,7 @@ PropertyElements::const_iterator PropertyList::Find(const char* name) const
     }
     // Most names that are asked for aren't there, and their lengths tell it.
     const DisplayWords::Word& word = words_.Look(DisplayWords::Context::PropertyTypes, name);
-    if ((word.lengths & lengths_) == 0)
+    if ((word.lengths & Lengths()) == 0)
     {
         return elements_.cend();
     }
@@ -157,5 +159,5 @@ void PropertyList::DropConsumed(const ConsumedProperties& consumed)
             elements_.erase(same);
         }
     }
-    NoteLengths();
+    lengths_ = 0;
 }

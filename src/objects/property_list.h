@@ -23,8 +23,7 @@ public:
 
     // One element alone.
     PropertyList(const CZtPropertyElement& element, const DisplayWords& words, std::uint64_t hostContext)
-        : elements_({&element}), lengths_(DisplayWords::LengthBit(element.GetName().text().size())), words_(words),
-          hostContext_(hostContext)
+        : elements_({&element}), words_(words), hostContext_(hostContext)
     {
     }
 
@@ -66,10 +65,10 @@ public:
 
 private:
     [[nodiscard]] PropertyElements::const_iterator Find(const char* name) const;
-    void NoteLengths();
+    [[nodiscard]] std::uint64_t Lengths() const;
 
     PropertyElements elements_;
-    std::uint64_t lengths_ = 0; // of the names in the list from the beginning, as DisplayWords::Word has them
+    mutable std::uint64_t lengths_ = 0; // of the names, as DisplayWords::Word has them; 0 when they must be reckoned
     const DisplayWords& words_;
     std::uint64_t hostContext_;
 };
