@@ -63,9 +63,8 @@ private:
 QString CZtConverterKVAPIImpl::DeclareVariable(const ObjectPair& object)
 {
     const QString* name = VariableType(object.objectClass);
-    return name != nullptr
-               ? WriteDeclareVariable(*name, VariableStem(*name, PlainPointerMark::Removed), object.number)
-               : QString();
+    return name != nullptr ? WriteDeclareVariable(*name, VariableStem(*name, PlainPointerMark::Removed), object.number)
+                           : QString();
 }
 
 std::vector<ObjectPair> CZtConverterKVAPIImpl::CollectCommandObjects(const CZtJournal& childEvents)

@@ -19,6 +19,8 @@ struct ObjectPair
 class KnownObjects
 {
 public:
+    KnownObjects() { objects_.max_load_factor(maxLoad); }
+
     // Enters an object; an existing entry of the handle is replaced.
     void Set(OdDbHandle handle, ObjectPair object) { objects_.insert_or_assign(handle, object); }
 
@@ -30,6 +32,9 @@ public:
     }
 
 private:
+    // Numbers in sequence fill a table evenly: it may be fuller than usual.
+    static constexpr float maxLoad = 0.8F;
+
     // Handles mostly follow each other: in a flat table so do their entries.
     tsl::robin_map<OdDbHandle, ObjectPair> objects_;
 };

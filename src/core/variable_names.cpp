@@ -6,6 +6,7 @@
 
 #include <QtCore/QHash>
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 
@@ -37,7 +38,7 @@ QString VariableStem(const QString& typeName, PlainPointerMark mark)
     static std::array<Stems, 3> known;
     const bool isPointerType = CurrentLanguage() == MacroLanguage::CppApi;
     auto& [all, lastType, lastStem] = known.at(!isPointerType ? 0 : mark == PlainPointerMark::Removed ? 1 : 2);
-    if (lastType.isNull() || lastType != typeName)
+    if (!lastType.isSharedWith(typeName))
     {
         auto found = all.constFind(typeName);
         if (found == all.constEnd())
@@ -55,7 +56,11 @@ QString VariableName(const QString& typeName, std::int32_t number, PlainPointerM
     const QString stem = VariableStem(typeName, mark);
     std::array<char, 16> digits{};
     const char* end = std::to_chars(digits.begin(), digits.end(), number).ptr;
-    return stem + QLatin1String(digits.data(), static_cast<int>(end - digits.data()));
+    QString name(stem.size() + static_cast<int>(end - digits.data()), Qt::Uninitialized);
+    const auto behindStem = std::ranges::copy(stem, name.begin()).out;
+    std::transform(digits.cbegin(), static_cast<const char*>(end), behindStem,
+                   [](char digit) { return QLatin1Char(digit); });
+    return name;
 }
 
 const QString* CZtConverterKVAPIImpl::VariableType(const OdRxClass* objectClass)

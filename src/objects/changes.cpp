@@ -10,6 +10,10 @@ constexpr std::array Axes = {Axis::X, Axis::Y, Axis::Z};
 
 std::optional<double> CZtConverterKVAPIObject::TakeChange(const PropertyPass& pass, const char* name)
 {
+    if (!pass.properties.MayHold(name))
+    {
+        return std::nullopt;
+    }
     const CZtVariant value = pass.properties.TakeProperty(name);
     return value.IsNull() || pass.created ? std::nullopt : std::optional(value.GetDouble());
 }

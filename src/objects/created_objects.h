@@ -17,6 +17,8 @@
 class CreatedObjects
 {
 public:
+    CreatedObjects() { created_.max_load_factor(maxLoad); }
+
     // Enters the variable of a type and a number; an existing entry of the object is replaced.
     void Set(const OdDbObjectId& id, const QString& typeName, std::int32_t number)
     {
@@ -46,6 +48,8 @@ private:
         std::int32_t type; // its place among the names
         std::int32_t number;
     };
+
+    static constexpr float maxLoad = 0.8F; // as for the known objects
 
     std::vector<QString> typeNames_;
     tsl::robin_map<OdDbObjectId, Variable> created_;

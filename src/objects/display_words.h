@@ -23,7 +23,7 @@ public:
     // A word in both forms, and the lengths that a text has which is one of them: bit n is the length n, modulo 64.
     struct Word
     {
-        QLatin1String plain;
+        const char* plain = nullptr;
         QString translation;
         std::uint64_t lengths = 0;
         bool isTranslated = false;
@@ -32,13 +32,24 @@ public:
         {
             return (text.size() == translation.size() &&
                     std::equal(text.cbegin(), text.cend(), translation.cbegin())) ||
-                   (isTranslated && text == plain);
+                   (isTranslated && text == QLatin1String(plain));
         }
     };
 
     // The word as the user's language has it. The word must be a literal: it is known by its address. Valid until the
     // next call.
-    [[nodiscard]] const Word& Look(Context context, const char* word) const;
+    [[nodiscard]] const Word& Look(Context context, const char* word) const
+    {
+        auto& recent =
+            words_[static_cast<std::size_t>(context)].recent; // NOLINT(*-constant-array-index): an enumerator
+        const auto address = reinterpret_cast<std::uintptr_t>(word);
+        Word& last = recent[(address ^ (address >> 8U)) % recentSize]; // NOLINT(*-constant-array-index): below its size
+        if (last.plain != word)
+        {
+            last = Find(context, word);
+        }
+        return last;
+    }
     [[nodiscard]] const QString& Translate(Context context, const char* word) const
     {
         return Look(context, word).translation;
@@ -57,17 +68,14 @@ public:
     }
 
 private:
-    // The words last asked for, by a few bits of their address: most events ask for the same ones in turn.
-    struct Recent
-    {
-        const char* address = nullptr;
-        Word word;
-    };
-    static constexpr std::size_t recentSize = 512;
+    [[nodiscard]] const Word& Find(Context context, const char* word) const;
+
+    static constexpr std::size_t recentSize = 256;
     struct Words
     {
         QHash<const char*, Word> all;
-        std::array<Recent, recentSize> recent;
+        // The words last asked for, by a few bits of their address: most events ask for the same ones in turn.
+        std::array<Word, recentSize> recent;
     };
     mutable std::array<Words, 3> words_;
 };

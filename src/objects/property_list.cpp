@@ -4,17 +4,7 @@
 #include <QtCore/QStringList>
 
 #include <algorithm>
-#include <cstring>
 #include <iterator>
-
-namespace
-{
-// The one name that stands for a whole group.
-bool IsGroup(const char* name)
-{
-    return name[0] == 'B' && std::strcmp(name, "BlockAttributes") == 0;
-}
-} // namespace
 
 PropertyList::PropertyList(const CZtPropertyList& elements, const DisplayWords& words, std::uint64_t hostContext)
     : words_(words), hostContext_(hostContext)
@@ -25,12 +15,9 @@ PropertyList::PropertyList(const CZtPropertyList& elements, const DisplayWords& 
 
 std::uint64_t PropertyList::Lengths() const
 {
-    if (lengths_ == 0)
+    for (const CZtPropertyElement* element : elements_)
     {
-        for (const CZtPropertyElement* element : elements_)
-        {
-            lengths_ |= DisplayWords::LengthBit(element->GetName().text().size());
-        }
+        lengths_ |= DisplayWords::LengthBit(element->GetName().text().size());
     }
     return lengths_;
 }
@@ -45,14 +32,8 @@ PropertyElements::const_iterator PropertyList::Find(const char* name) const
                                                               element->GetGroup(), Qt::CaseInsensitive);
                                     });
     }
-    // Most names that are asked for aren't there, and their lengths tell it.
     const DisplayWords::Word& word = words_.Look(DisplayWords::Context::PropertyTypes, name);
-    if ((word.lengths & Lengths()) == 0)
-    {
-        return elements_.cend();
-    }
-    return std::ranges::find_if(elements_,
-                                [&](const CZtPropertyElement* element)
+    return std::ranges::find_if(elements_, [&](const CZtPropertyElement* element)
                                 { return word.IsEither(element->GetName().text()); });
 }
 
@@ -106,10 +87,10 @@ std::vector<PropertyList::Numbered> PropertyList::TakeSeries(const char* stem, C
 
 bool PropertyList::Holds(const char* name) const
 {
-    return Find(name) != elements_.cend();
+    return MayHold(name) && Find(name) != elements_.cend();
 }
 
-CZtVariant PropertyList::TakeProperty(const char* name, ConsumedProperties* consumed, CZtVariant* tag)
+CZtVariant PropertyList::Take(const char* name, ConsumedProperties* consumed, CZtVariant* tag)
 {
     const auto found = Find(name);
     if (found == elements_.cend())

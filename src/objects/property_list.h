@@ -7,6 +7,8 @@
 
 #include <QtCore/QVarLengthArray>
 
+#include <cstring>
+
 // Elements of an event. Most events have few, which then need no memory of their own.
 using PropertyElements = QVarLengthArray<const CZtPropertyElement*, 16>;
 
@@ -29,11 +31,21 @@ public:
 
     [[nodiscard]] bool IsEmpty() const { return elements_.empty(); }
 
+    // False for most names that aren't there: their lengths tell it.
+    [[nodiscard]] bool MayHold(const char* name) const
+    {
+        return IsGroup(name) || (words_.Look(DisplayWords::Context::PropertyTypes, name).lengths &
+                                 (lengths_ != 0 ? lengths_ : Lengths())) != 0;
+    }
+
     // Takes the first element of a name, which is compared as it stands and in the user's language: the element leaves
     // the list and goes to the consumed ones when they are given; its tag goes to tag when asked for. "BlockAttributes"
     // takes the first element of the group of that name instead, its tag being the element's name. Gives the value,
     // null when there is no such element.
-    CZtVariant TakeProperty(const char* name, ConsumedProperties* consumed = nullptr, CZtVariant* tag = nullptr);
+    CZtVariant TakeProperty(const char* name, ConsumedProperties* consumed = nullptr, CZtVariant* tag = nullptr)
+    {
+        return MayHold(name) ? Take(name, consumed, tag) : CZtVariant();
+    }
 
     // The same for three coordinates, each 0 when it is missing.
     OdGePoint3d TakePoint(const char* xName, const char* yName, const char* zName,
@@ -64,7 +76,14 @@ public:
     void DropConsumed(const ConsumedProperties& consumed);
 
 private:
+    // The one name that stands for a whole group.
+    [[nodiscard]] static bool IsGroup(const char* name)
+    {
+        return name[0] == 'B' && std::strcmp(name, "BlockAttributes") == 0;
+    }
+
     [[nodiscard]] PropertyElements::const_iterator Find(const char* name) const;
+    CZtVariant Take(const char* name, ConsumedProperties* consumed, CZtVariant* tag);
     [[nodiscard]] std::uint64_t Lengths() const;
 
     PropertyElements elements_;
