@@ -27,6 +27,13 @@ QString CZtConverterKVAPIObjectCPP::WriteRenameEntity(const QString& /*variable*
     return {};
 }
 
+QString CZtConverterKVAPIObjectCPP::WriteSetRichLine(const QString& /*variable*/, std::int32_t /*index*/,
+                                                     double /*offset*/, std::int32_t /*color*/,
+                                                     const QString& /*style*/)
+{
+    return {};
+}
+
 QString CZtConverterKVAPIObjectCPP::WriteSetRichLineOffset(const QString& /*variable*/, std::int32_t /*index*/,
                                                            double /*offset*/)
 {

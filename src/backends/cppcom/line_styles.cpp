@@ -20,6 +20,14 @@ QString CZtConverterKVAPIObjectCPPCOM::WriteCreateRichLineStyle(const QString& v
         number, number, name, variable);
 }
 
+QString CZtConverterKVAPIObjectCPPCOM::WriteSetRichLine(const QString& variable, std::int32_t index, double offset,
+                                                        std::int32_t color, const QString& style)
+{
+    return Statement(
+        "%1%3->DeleteLine(%4);%2%1%3->AddLine(%5, pConnection->m_KvApp->GetColorByIndex( %6 ), L\"%7\");%2", variable,
+        index, Fixed{offset}, color, style);
+}
+
 QString CZtConverterKVAPIObjectCPPCOM::WriteSetRichLineOffset(const QString& variable, std::int32_t index,
                                                               double offset)
 {

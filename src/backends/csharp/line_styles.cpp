@@ -20,6 +20,13 @@ QString CZtConverterKVAPIObjectCSharp::WriteCreateRichLineStyle(const QString& v
         number, number, name, variable);
 }
 
+QString CZtConverterKVAPIObjectCSharp::WriteSetRichLine(const QString& variable, std::int32_t index, double offset,
+                                                        std::int32_t color, const QString& style)
+{
+    return Statement("%1%3.DeleteLine(%4);%2%1%3.AddLine(%5, kvApp.GetColorByIndex( %6 ), \"%7\");%2", variable, index,
+                     Fixed{offset}, color, style);
+}
+
 QString CZtConverterKVAPIObjectCSharp::WriteSetRichLineOffset(const QString& variable, std::int32_t index,
                                                               double offset)
 {

@@ -20,6 +20,13 @@ QString CZtConverterKVAPIObjectJavaScript::WriteCreateRichLineStyle(const QStrin
         number, name, variable);
 }
 
+QString CZtConverterKVAPIObjectJavaScript::WriteSetRichLine(const QString& variable, std::int32_t index, double offset,
+                                                            std::int32_t color, const QString& style)
+{
+    return Statement("%1%3.DeleteLine(%4);%2%1%3.AddLine(%5, mApp.GetColorByIndex(%6), \"%7\");%2", variable, index,
+                     Fixed{offset}, color, style);
+}
+
 QString CZtConverterKVAPIObjectJavaScript::WriteSetRichLineOffset(const QString& variable, std::int32_t index,
                                                                   double offset)
 {

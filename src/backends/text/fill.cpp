@@ -122,8 +122,8 @@ void ParsedTemplate::AppendFilled(QString& out, std::span<const FillValue> value
         throw std::length_error("a generated text is too long");
 
     // A text grows by many of these: each growth takes more than it needs.
-    if (out.capacity() < static_cast<int>(size) && before != 0)
-        out.reserve(static_cast<int>(size + size / 2));
+    if (out.capacity() < static_cast<int>(size))
+        out.reserve(static_cast<int>(before != 0 ? size + size / 2 : size + 256));
     out.resize(static_cast<int>(size));
     char16_t* at = reinterpret_cast<char16_t*>(out.data()) + before;
     const char16_t* plain = plainText_.data();

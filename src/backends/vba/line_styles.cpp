@@ -20,6 +20,13 @@ QString CZtConverterKVAPIObjectVba::WriteCreateRichLineStyle(const QString& vari
         number, number, name, variable);
 }
 
+QString CZtConverterKVAPIObjectVba::WriteSetRichLine(const QString& variable, std::int32_t index, double offset,
+                                                     std::int32_t color, const QString& style)
+{
+    return Statement("%1%3.DeleteLine(%4)%2%1%3.AddLine %5, kvApp.GetColorByIndex( %6 ), \"%7\"%2", variable, index,
+                     Fixed{offset}, color, style);
+}
+
 QString CZtConverterKVAPIObjectVba::WriteSetRichLineOffset(const QString& variable, std::int32_t index, double offset)
 {
     return Statement("%1%3.SetLineOffset %4, %5%2", variable, index, Fixed{offset});
