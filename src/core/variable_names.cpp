@@ -57,7 +57,7 @@ QString VariableName(const QString& typeName, std::int32_t number, PlainPointerM
     std::array<char, 16> digits{};
     const char* end = std::to_chars(digits.begin(), digits.end(), number).ptr;
     QString name(stem.size() + static_cast<int>(end - digits.data()), Qt::Uninitialized);
-    const auto behindStem = std::ranges::copy(stem, name.begin()).out;
+    QChar* const behindStem = std::ranges::copy(stem, name.begin()).out;
     std::transform(digits.cbegin(), static_cast<const char*>(end), behindStem,
                    [](char digit) { return QLatin1Char(digit); });
     return name;

@@ -79,7 +79,7 @@ std::vector<PropertyList::Numbered> PropertyList::TakeSeries(const char* stem, C
     std::vector<Numbered> series = Series(stem);
     const auto isOther = [&](const CZtPropertyElement* element)
     { return !element->GetName().text().startsWith(QLatin1String(stem)); };
-    const auto taken = std::stable_partition(elements_.begin(), elements_.end(), isOther);
+    auto* const taken = std::stable_partition(elements_.begin(), elements_.end(), isOther);
     consumed.append(taken, static_cast<int>(elements_.end() - taken));
     elements_.erase(taken, elements_.end());
     return series;
@@ -92,7 +92,7 @@ bool PropertyList::Holds(const char* name) const
 
 CZtVariant PropertyList::Take(const char* name, ConsumedProperties* consumed, CZtVariant* tag)
 {
-    const auto found = Find(name);
+    const auto* const found = Find(name);
     if (found == elements_.cend())
     {
         return {};
@@ -130,11 +130,11 @@ void PropertyList::DropConsumed(const ConsumedProperties& consumed)
 {
     for (const CZtPropertyElement* used : consumed)
     {
-        const auto same = std::ranges::find_if(elements_,
-                                               [&](const CZtPropertyElement* element) {
-                                                   return element == used || (element->GetName() == used->GetName() &&
-                                                                              element->GetGroup() == used->GetGroup());
-                                               });
+        auto* const same = std::ranges::find_if(elements_,
+                                                [&](const CZtPropertyElement* element) {
+                                                    return element == used || (element->GetName() == used->GetName() &&
+                                                                               element->GetGroup() == used->GetGroup());
+                                                });
         if (same != elements_.end())
         {
             elements_.erase(same);

@@ -4,6 +4,7 @@ The pages load the script library from port 7776 of this machine. A server at an
 to go there in its place, so that tests that run at the same time don't meet.
 """
 import json
+import os
 import queue
 import subprocess
 import tempfile
@@ -59,7 +60,8 @@ def run_pages(pages, stand_ins):
         chromium = subprocess.Popen(
             ["chromium", *FLAGS, f"--user-data-dir={profile}", "--remote-debugging-port=0",
              f"--host-resolver-rules=MAP localhost:7776 127.0.0.1:{server.server_port}",
-             ENDPOINT + server.order[0]], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+             ENDPOINT + server.order[0]], env={**os.environ, "TMPDIR": profile}, stdout=subprocess.DEVNULL,
+            stderr=subprocess.DEVNULL)
         try:
             return [server.recorded.get(timeout=120) for _ in pages], server.asked
         finally:

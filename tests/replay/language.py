@@ -36,10 +36,14 @@ class Language:
     def close(self):
         """Ends what `prepare` began."""
 
+    def environment(self):
+        """The variables for tools: messages in English, and what they leave behind goes with the folder."""
+        return {**os.environ, "LC_ALL": "C", "TMPDIR": str(self.folder)}
+
     def tool(self, *command, **variables):
         """Runs a tool in the folder of the stand-ins, with variables of its environment, and gives what it printed."""
-        done = subprocess.run(command, cwd=self.folder, env={**os.environ, "LC_ALL": "C", **variables},
-                              capture_output=True, text=True, timeout=120, check=False)
+        done = subprocess.run(command, cwd=self.folder, env={**self.environment(), **variables}, capture_output=True,
+                              text=True, timeout=120, check=False)
         if done.returncode:
             messages = done.stdout + done.stderr
             raise Refused(f"{command[0]} ended with {done.returncode}: {messages}", self.error.findall(messages))

@@ -26,8 +26,8 @@ class Vba(Language):
 
     def prepare(self):
         self.lock = threading.Lock()  # one macro at a time
-        self.office = subprocess.Popen([PYTHON, str(HERE / "vba" / "office.py")], cwd=self.folder, text=True,
-                                       stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+        self.office = subprocess.Popen([PYTHON, str(HERE / "vba" / "office.py")], cwd=self.folder,
+                                       env=self.environment(), text=True, stdin=subprocess.PIPE, stdout=subprocess.PIPE)
 
     def close(self):
         self.office.stdin.close()
