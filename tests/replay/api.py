@@ -27,18 +27,19 @@ def classes():
     members = None
     for place, line in _lines("api_members.txt"):
         head = re.fullmatch(r"class (\w+)(?: : (\w+))?", line)
-        member = re.fullmatch(r"  (\w+)\((.*)\)(?: -> ((?:handle )?\w+))?", line)
         if head:
             base = head[2] or (None if head[1] == "Object" else "Object")
             if head[1] in found or base not in (None, *found):
                 raise ValueError(f"{place}: {line.strip()}: listed twice, or its base isn't above it")
             members = []
             found[head[1]] = ApiClass(head[1], base, members)
-        elif member and members is not None:
-            arguments = [_argument(text) for text in member[2].split(", ") if text]
+            continue
+        for text in line.strip().split("; "):
+            member = re.fullmatch(r"(\w+)\((.*)\)(?: -> ((?:handle )?\w+))?", text)
+            if not member or members is None:
+                raise ValueError(f"{place}: neither a class nor a member: {text}")
+            arguments = [_argument(argument) for argument in member[2].split(", ") if argument]
             members.append(Member(member[1], arguments, member[3] and _argument(member[3])))
-        else:
-            raise ValueError(f"{place}: neither a class nor a member: {line.strip()}")
     return found
 
 
@@ -47,8 +48,10 @@ def enumerations():
     found = {}
     for _, line in _lines("api_constants.txt"):
         if line.startswith(" "):
-            words = line.split()
-            found[current].append((words[0], words[1] if len(words) > 1 else None))
+            for text in line.strip().split(", "):
+                words = text.split()
+                stem = current.removesuffix("_e") if words[0].startswith("_") else ""
+                found[current].append((stem + words[0], words[1] if len(words) > 1 else None))
         else:
             current = line.strip()
             found[current] = []

@@ -8,6 +8,9 @@
 //   [cpp]               the macro text without its frame: every character up to the next heading counts
 //   [cpp whole]         the whole macro file, without its byte order mark
 //
+// The line "... 24 more" stands for 24 lines that differ from lines above them only in numbers and quoted texts. The
+// C++ sections say every line, so that a change of the logic shows there; the others may fold what repeats.
+//
 // A section whose text has no line end is closed by the line "\ No newline at end of file".
 //
 // Languages are cpp, csharp, javascript, vbnet, cppcom and vba. The macro's name is "macro".

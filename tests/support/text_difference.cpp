@@ -1,7 +1,22 @@
 // Two texts that should be equal, told apart for people.
 #include "support/text_difference.h"
 
+#include <QtCore/QRegularExpression>
+#include <QtCore/QSet>
 #include <QtCore/QStringList>
+
+namespace
+{
+
+// A line without its numbers and quoted texts.
+QString Shape(QString line)
+{
+    static const QRegularExpression quoted(QStringLiteral("\"[^\"]*\""));
+    static const QRegularExpression number(QStringLiteral("-?\\d+(\\.\\d+)?(e[+-]\\d+)?"));
+    return line.replace(quoted, QStringLiteral("\"\"")).replace(number, QStringLiteral("0"));
+}
+
+} // namespace
 
 QString FirstDifference(const QString& expected, const QString& actual)
 {
@@ -30,4 +45,26 @@ QString FirstDifference(const QString& expected, const QString& actual)
     add(QLatin1Char('-'), wanted, line, context);
     add(QLatin1Char('+'), got, line, context);
     return text;
+}
+
+QString Unfolded(const QString& expected, const QString& actual)
+{
+    static const QRegularExpression fold(QStringLiteral("^ *\\.\\.\\. (\\d+) more$"));
+    const QStringList got = actual.split(QLatin1Char('\n'));
+    QStringList wanted;
+    QSet<QString> shapes;
+    for (const QString& line : expected.split(QLatin1Char('\n')))
+    {
+        const QRegularExpressionMatch match = fold.match(line);
+        const QStringList folded = got.mid(wanted.size(), match.captured(1).toInt());
+        if (match.hasMatch() &&
+            std::ranges::all_of(folded, [&](const QString& one) { return shapes.contains(Shape(one)); }))
+        {
+            wanted += folded;
+            continue;
+        }
+        wanted.append(line);
+        shapes.insert(Shape(line));
+    }
+    return wanted.join(QLatin1Char('\n'));
 }
