@@ -40,6 +40,13 @@ constexpr int AlignmentByOutside(bool outside, bool inside)
 {
     return inside ? 2 : outside ? 1 : 0;
 }
+
+// A half of a center mark; -1 stands for the half that stays as it is.
+template <typename Half>
+constexpr std::optional<Half> CenterMarkHalf(Half value)
+{
+    return value != Half{-1} ? std::optional(value) : std::nullopt;
+}
 } // namespace
 
 OdSmartPtr<OdDbDimension> CZtConverterKVAPIObject::OpenedDimension(const PropertyPass& pass)
@@ -302,11 +309,12 @@ QString CZtConverterKVAPIObject::ConvertDiametricDimensionProperties(const Prope
     QString text = ConvertDimension(pass, false);
     const QString word = QStringLiteral("SetCenterMarkDisplay");
     text += ChangeSetting(pass, OfDimension, RadialDiameterOptions, "CenterMark size",
-                          [&](const QString& options, const CZtVariant& value)
-                          { return WriteSetCenterMark(options, word, std::nullopt, value.GetDouble()); });
+                          [&](const QString& options, const CZtVariant& value) {
+                              return WriteSetCenterMark(options, word, std::nullopt, CenterMarkHalf(value.GetDouble()));
+                          });
     text += ChangeSetting(pass, OfDimension, RadialDiameterOptions, "CenterMark",
                           [&](const QString& options, const CZtVariant& value)
-                          { return WriteSetCenterMark(options, word, TagOf(value), std::nullopt); });
+                          { return WriteSetCenterMark(options, word, CenterMarkHalf(TagOf(value)), std::nullopt); });
     return text + ChangeSettings(pass, OfDimension, RadialDiameterOptions,
                                  {{"Jog angle", "RadiusDimensionJogAngle", Form::Number}});
 }
