@@ -37,14 +37,10 @@ QString CZtConverterKVAPIObject::ConvertViewTile(const PropertyPass& pass)
           std::pair("CS icon on", "CSIconIsOn")})
     {
         const CZtVariant value = pass.properties.TakeProperty(name);
-        if (value.IsNull() || pass.created)
+        if (!value.IsNull() && !pass.created)
         {
-            continue;
+            text += WriteSetBoolProperty(pass.variable, QLatin1String(word), TagOf(value) == 1);
         }
-        const CZtVariantCollectionElement* element = value.GetCollectionElement();
-        text += WriteSetBoolProperty(pass.variable, QLatin1String(word),
-                                     element != nullptr ? element->GetTag()->GetInt32() != 0
-                                                        : IsWord(words_, value, "Yes", Qt::CaseInsensitive));
     }
     return text;
 }
