@@ -8,43 +8,27 @@ using kv::General;
 QString CZtConverterKVAPICPP::CornerEntities(int number, const QStringList& firstNames, const OdGePoint3d& firstPoint,
                                              const QStringList& secondNames, const OdGePoint3d& secondPoint)
 {
-    QString text = Line("%1kvObjectPtrArray firstEntityArray%2"
-                        ";\n",
-                        number);
-    text += Line("%1kvObjectPtrArray secondEntityArray%2"
-                 ";\n",
-                 number);
-    text += Line("%1kvDoubleArray firstPointOnEntityDblArray%2"
-                 ";\n",
-                 number);
-    text += Line("%1kvDoubleArray secondPointOnEntityDblArray%2"
-                 ";\n\n",
-                 number);
+    QString text = Line("%1kvObjectPtrArray firstEntityArray%2;\n", number);
+    text += Line("%1kvObjectPtrArray secondEntityArray%2;\n", number);
+    text += Line("%1kvDoubleArray firstPointOnEntityDblArray%2;\n", number);
+    text += Line("%1kvDoubleArray secondPointOnEntityDblArray%2;\n\n", number);
     for (const QString& name : firstNames)
     {
-        text += Line("%1firstEntityArray%2"
-                     ".add(%3);\n",
-                     number, name);
+        text += Line("%1firstEntityArray%2.add(%3);\n", number, name);
     }
     for (const QString& name : secondNames)
     {
-        text += Line("%1secondEntityArray%2"
-                     ".add(%3);\n",
-                     number, name);
+        text += Line("%1secondEntityArray%2.add(%3);\n", number, name);
     }
     text += kv::LineEnd();
     for (const double coordinate : {firstPoint.x, firstPoint.y, firstPoint.z})
     {
-        text += Line("%1firstPointOnEntityDblArray%2"
-                     ".add(%3);\n",
-                     number, General{coordinate});
+        text += Line("%1firstPointOnEntityDblArray%2.add(%3);\n", number, General{coordinate});
     }
     text += kv::LineEnd();
     for (const double coordinate : {secondPoint.x, secondPoint.y, secondPoint.z})
     {
-        text += Line("%1secondPointOnEntityDblArray%2"
-                     ".add(%3);\n",
-                     number, General{coordinate});
+        text += Line("%1secondPointOnEntityDblArray%2.add(%3);\n", number, General{coordinate});
     }
     text += kv::LineEnd();
     return text;
@@ -57,11 +41,8 @@ QString CZtConverterKVAPICPP::WriteFilletEntities(const QStringList& firstNames,
     QString text = CornerEntities(number, firstNames, firstPoint, secondNames, secondPoint);
     text += SetFilletOptions();
     text += kv::LineEnd();
-    text += Line("%1kvSketchManager->FilletEntities(firstPointOnEntityDblArray%2"
-                 ", firstEntityArray%2"
-                 ", secondPointOnEntityDblArray%2"
-                 ",  secondEntityArray%2"
-                 ");\n",
+    text += Line("%1kvSketchManager->FilletEntities(firstPointOnEntityDblArray%2, firstEntityArray%2"
+                 ", secondPointOnEntityDblArray%2,  secondEntityArray%2);\n",
                  number);
     return text;
 }
@@ -73,11 +54,8 @@ QString CZtConverterKVAPICPP::WriteChamferEntities(const QStringList& firstNames
     QString text = CornerEntities(number, firstNames, firstPoint, secondNames, secondPoint);
     text += SetChamferOptions();
     text += kv::LineEnd();
-    text += Line("%1kvSketchManager->ChamferEntities(firstPointOnEntityDblArray%2"
-                 ", firstEntityArray%2"
-                 ", secondPointOnEntityDblArray%2"
-                 ",  secondEntityArray%2"
-                 ");\n",
+    text += Line("%1kvSketchManager->ChamferEntities(firstPointOnEntityDblArray%2, firstEntityArray%2"
+                 ", secondPointOnEntityDblArray%2,  secondEntityArray%2);\n",
                  number);
     return text;
 }

@@ -6,28 +6,19 @@
 QString CZtConverterKVAPICPP::WriteAddEntitiesToGroup(const QStringList& names, const QString& group)
 {
     const int number = CppCounters::OfProcess().WriteAddEntitiesToGroup++;
-    QString text = Line("%1kvObjectPtrArray entities%2"
-                        ";\n",
-                        number);
-    text += Line("%1bool bPart%2"
-                 ";\n",
-                 number);
+    QString text = Line("%1kvObjectPtrArray entities%2;\n", number);
+    text += Line("%1bool bPart%2;\n", number);
     for (const QString& name : names)
     {
-        text += Line("%1%3->HasEntity(%4, &bPart%2"
-                     ");\n"
-                     "%1if ( !bPart%2"
-                     " )\n"
+        text += Line("%1%3->HasEntity(%4, &bPart%2);\n"
+                     "%1if ( !bPart%2 )\n"
                      "%1{\n"
-                     "%1    entities%2"
-                     ".add(%4);\n"
+                     "%1    entities%2.add(%4);\n"
                      "%1}\n",
                      number, group, name);
     }
     text += kv::LineEnd();
-    text += Line("%1%3->AddEntities(entities%2"
-                 ");\n",
-                 number, group);
+    text += Line("%1%3->AddEntities(entities%2);\n", number, group);
     text += kv::LineEnd();
     return text;
 }
@@ -35,19 +26,13 @@ QString CZtConverterKVAPICPP::WriteAddEntitiesToGroup(const QStringList& names, 
 QString CZtConverterKVAPICPP::WriteRemoveEntitiesFromGroup(const QStringList& names, const QString& group)
 {
     constexpr int number = 0; // never grows; the format's
-    QString text = Line("%1kvObjectPtrArray removeObject%2"
-                        ";\n",
-                        number);
+    QString text = Line("%1kvObjectPtrArray removeObject%2;\n", number);
     for (const QString& name : names)
     {
-        text += Line("%1removeObject%2"
-                     ".add(%3);\n",
-                     number, name);
+        text += Line("%1removeObject%2.add(%3);\n", number, name);
     }
     text += kv::LineEnd();
-    text += Line("%1%3->RemoveEntities(removeObject%2"
-                 ");\n",
-                 number, group);
+    text += Line("%1%3->RemoveEntities(removeObject%2);\n", number, group);
     return text;
 }
 
@@ -56,9 +41,7 @@ QString CZtConverterKVAPICPP::WriteEraseEntity(const QStringList& names)
     QString text;
     for (const QString& name : names)
     {
-        text += Line("%1%2"
-                     "->put_Erased( true );\n",
-                     name);
+        text += Line("%1%2->put_Erased( true );\n", name);
     }
     return text;
 }

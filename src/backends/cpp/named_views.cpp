@@ -67,42 +67,25 @@ QString CZtConverterKVAPIObjectCPP::WriteCreateNamedView(const QString& variable
                                                          const OdGePoint3d& corner2, bool isSheet)
 {
     const int number = CppCounters::OfProcess().WriteCreateNamedView++;
-    QString text = Line("%1kvSheetNamedView_ptr kvSheetNamedView%2"
-                        ";\n",
-                        number);
-    text += Line("%1kvDoubleArray kvCorner_1_%2"
-                 ";\n",
-                 number);
-    text += Line("%1kvDoubleArray kvCorner_2_%2"
-                 ";\n",
-                 number);
-    text += Line("%1kvCreateObjectResult_e Result%2"
-                 ";\n",
-                 number);
+    QString text = Line("%1kvSheetNamedView_ptr kvSheetNamedView%2;\n", number);
+    text += Line("%1kvDoubleArray kvCorner_1_%2;\n", number);
+    text += Line("%1kvDoubleArray kvCorner_2_%2;\n", number);
+    text += Line("%1kvCreateObjectResult_e Result%2;\n", number);
     for (const double coordinate : {corner1.x, corner1.y, corner1.z})
     {
-        text += Line("%1kvCorner_1_%2"
-                     ".add(%3);\n",
-                     number, Fixed{coordinate});
+        text += Line("%1kvCorner_1_%2.add(%3);\n", number, Fixed{coordinate});
     }
     for (const double coordinate : {corner2.x, corner2.y, corner2.z})
     {
-        text += Line("%1kvCorner_2_%2"
-                     ".add(%3);\n",
-                     number, Fixed{coordinate});
+        text += Line("%1kvCorner_2_%2.add(%3);\n", number, Fixed{coordinate});
     }
     text += kv::LineEnd();
     // A view of a sheet goes into a local and never into the variable; the format's.
-    text += isSheet ? Line("%1kvViewManager->CreateSheetNamedView(L\"%3\", L\"%4\", kvCorner_1_%2"
-                           ", kvCorner_2_%2"
-                           ", &kvSheetNamedView%2"
-                           ", &Result%2"
-                           ");\n\n",
+    text += isSheet ? Line("%1kvViewManager->CreateSheetNamedView(L\"%3\", L\"%4\", kvCorner_1_%2, kvCorner_2_%2"
+                           ", &kvSheetNamedView%2, &Result%2);\n\n",
                            number, name, viewClass)
-                    : Line("%1kvViewManager->CreateModelNamedView(L\"%3\", L\"%4\", kvCorner_1_%2"
-                           ", kvCorner_2_%2"
-                           ", &%5, &Result%2"
-                           ");\n\n",
+                    : Line("%1kvViewManager->CreateModelNamedView(L\"%3\", L\"%4\", kvCorner_1_%2, kvCorner_2_%2"
+                           ", &%5, &Result%2);\n\n",
                            number, name, viewClass, variable);
     return text;
 }

@@ -7,14 +7,10 @@ using kv::General;
 QString CZtConverterKVAPICPP::WriteFitPolyline(const QStringList& names)
 {
     const int number = ++CppCounters::OfProcess().WriteFitPolyline;
-    QString text = Line("%1bool Success%2"
-                        ";\n",
-                        number);
+    QString text = Line("%1bool Success%2;\n", number);
     for (const QString& name : names)
     {
-        text += Line("%1%2"
-                     "->Fit( &Success%3 );\n",
-                     name, number);
+        text += Line("%1%2->Fit( &Success%3 );\n", name, number);
     }
     return text;
 }
@@ -22,14 +18,10 @@ QString CZtConverterKVAPICPP::WriteFitPolyline(const QStringList& names)
 QString CZtConverterKVAPICPP::WriteDecurvePolyline(const QStringList& names)
 {
     const int number = ++CppCounters::OfProcess().WriteDecurvePolyline;
-    QString text = Line("%1bool Success%2"
-                        ";\n",
-                        number);
+    QString text = Line("%1bool Success%2;\n", number);
     for (const QString& name : names)
     {
-        text += Line("%1%2"
-                     "->Decurve( &Success%3 );\n",
-                     name, number);
+        text += Line("%1%2->Decurve( &Success%3 );\n", name, number);
     }
     return text;
 }
@@ -37,14 +29,10 @@ QString CZtConverterKVAPICPP::WriteDecurvePolyline(const QStringList& names)
 QString CZtConverterKVAPICPP::WriteSplinePolyline(const QStringList& names)
 {
     const int number = ++CppCounters::OfProcess().WriteSplinePolyline;
-    QString text = Line("%1bool Success%2"
-                        ";\n",
-                        number);
+    QString text = Line("%1bool Success%2;\n", number);
     for (const QString& name : names)
     {
-        text += Line("%1%2"
-                     "->Spline( &Success%3 );\n",
-                     name, number);
+        text += Line("%1%2->Spline( &Success%3 );\n", name, number);
     }
     return text;
 }
@@ -82,13 +70,11 @@ QString CZtConverterKVAPICPP::WriteSplitPolyline(const QString& variable, std::i
     const int number = CppCounters::OfProcess().WriteSplitPolyline++;
     return is3D ? Line("%1bool Success%4;\n"
                        "%1kvPolyLine3D_ptr splittedPolyline3D%4;\n"
-                       "%1%2"
-                       "->Split( %3, &splittedPolyline3D%4, Success%4 );\n",
+                       "%1%2->Split( %3, &splittedPolyline3D%4, Success%4 );\n",
                        variable, index, number)
                 : Line("%1bool Success%4;\n"
                        "%1kvPolyLine_ptr splittedPolyline%4;\n"
-                       "%1%2"
-                       "->Split( %3, &splittedPolyline%4, Success%4 );\n",
+                       "%1%2->Split( %3, &splittedPolyline%4, Success%4 );\n",
                        variable, index, number);
 }
 
@@ -97,12 +83,10 @@ QString CZtConverterKVAPICPP::WriteAddVertexAfter(const QString& variable, std::
 {
     const int number = CppCounters::OfProcess().WriteAddVertexAfter++;
     return is3D ? Line("%1bool Success%4;\n"
-                       "%1%2"
-                       "->AddVertexAfter( %3, %5, %6, %7, Success%4 );\n",
+                       "%1%2->AddVertexAfter( %3, %5, %6, %7, Success%4 );\n",
                        variable, index, number, point)
                 : Line("%1bool Success%4;\n"
-                       "%1%2"
-                       "->AddVertexAfter( %3, %5, %6, Success%4 );\n",
+                       "%1%2->AddVertexAfter( %3, %5, %6, Success%4 );\n",
                        variable, index, number, OdGePoint2d{point.x, point.y});
 }
 
@@ -111,20 +95,17 @@ QString CZtConverterKVAPICPP::WriteSetVertexCoordinate(const QString& variable, 
 {
     const int number = CppCounters::OfProcess().WriteSetVertexCoordinate++;
     return is3D ? Line("%1bool Success%4;\n"
-                       "%1%2"
-                       "->SetVertexCoordinate( %3, %5, %6, %7, Success%4 );\n",
+                       "%1%2->SetVertexCoordinate( %3, %5, %6, %7, Success%4 );\n",
                        variable, index, number, point)
                 : Line("%1bool Success%4;\n"
-                       "%1%2"
-                       "->SetVertexCoordinate( %3, %5, %6, Success%4 );\n",
+                       "%1%2->SetVertexCoordinate( %3, %5, %6, Success%4 );\n",
                        variable, index, number, OdGePoint2d{point.x, point.y});
 }
 
 QString CZtConverterKVAPICPP::WriteStraightenPolyline(const QString& variable, std::int32_t first, std::int32_t second)
 {
     return Line("%1bool Success%5;\n"
-                "%1%2"
-                "->Straighten( %3, %4 );\n",
+                "%1%2->Straighten( %3, %4 );\n",
                 variable, first, second, CppCounters::OfProcess().WriteStraightenPolyline++);
 }
 
@@ -132,18 +113,14 @@ QString CZtConverterKVAPICPP::WriteSetSegmentWidths(const QString& variable, std
                                                     double end)
 {
     return Line("%1bool Success%6;\n"
-                "%1%2"
-                "->SetSegmentStartWidth( %3, %4 );\n"
-                "%1%2"
-                "->SetSegmentEndWidth( %3, %5 );\n",
+                "%1%2->SetSegmentStartWidth( %3, %4 );\n"
+                "%1%2->SetSegmentEndWidth( %3, %5 );\n",
                 variable, segment, General{start}, General{end}, CppCounters::OfProcess().WriteSetSegmentWidths++);
 }
 
 QString CZtConverterKVAPICPP::WriteDeleteVertex(const QString& variable, std::int32_t index)
 {
-    return Line("%1%2"
-                "->DeleteVertex( %3 );\n",
-                variable, index);
+    return Line("%1%2->DeleteVertex( %3 );\n", variable, index);
 }
 
 QString CZtConverterKVAPICPP::CoordinateLines(std::int32_t number, const OdArray<OdGePoint2d>& points)

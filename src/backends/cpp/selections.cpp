@@ -64,116 +64,67 @@ QString CZtConverterKVAPICPP::WriteSelectByMethods(const SelectionMethod& method
     QString text;
     if (!filterActive)
     {
-        text += Line("%1kvSelectionManager_ptr kvSelectionMgr%2"
-                     ";\n"
-                     "%1kvDoc->GetSelectionManager( &kvSelectionMgr%2"
-                     " );\n",
+        text += Line("%1kvSelectionManager_ptr kvSelectionMgr%2;\n"
+                     "%1kvDoc->GetSelectionManager( &kvSelectionMgr%2 );\n",
                      number);
     }
-    text += Line("%1kvMathUtility_ptr kvMathUtility%2"
-                 "; \n"
-                 "%1m_pKvApp->GetMathUtility(&kvMathUtility%2"
-                 ");;\n",
+    text += Line("%1kvMathUtility_ptr kvMathUtility%2; \n"
+                 "%1m_pKvApp->GetMathUtility(&kvMathUtility%2);;\n",
                  number);
     switch (method.kind)
     {
     case Kind::Point:
-        text += Line("%1kvMathPoint_ptr Point_%2"
-                     "_1;\n",
-                     number);
-        text += Line("%1kvMathUtility%2"
-                     "->CreatePoint(%3, %4, %5 , &Point_%2"
-                     "_1);\n",
-                     number, points[0]);
+        text += Line("%1kvMathPoint_ptr Point_%2_1;\n", number);
+        text += Line("%1kvMathUtility%2->CreatePoint(%3, %4, %5 , &Point_%2_1);\n", number, points[0]);
         text += Line("%1bool Result;\n"
-                     " %1kvSelectionMgr%2"
-                     "->SelectByPoint(Point_%2"
-                     "_1,&Result);\n",
+                     " %1kvSelectionMgr%2->SelectByPoint(Point_%2_1,&Result);\n",
                      number);
         break;
     case Kind::Window:
-        text += Line("%1kvMathPoint_ptr Point_%2"
-                     "_1;\n",
-                     number);
-        text += Line("%1kvMathUtility%2"
-                     "->CreatePoint(%3, %4, %5,&Point_%2"
-                     "_1);\n",
-                     number, points[0]);
-        text += Line("%1kvMathPoint_ptr Point_%2"
-                     "_2;\n",
-                     number);
-        text += Line("%1kvMathUtility%2"
-                     "->CreatePoint(%3, %4, %5,&Point_%2"
-                     "_2);\n",
-                     number, points[1]);
+        text += Line("%1kvMathPoint_ptr Point_%2_1;\n", number);
+        text += Line("%1kvMathUtility%2->CreatePoint(%3, %4, %5,&Point_%2_1);\n", number, points[0]);
+        text += Line("%1kvMathPoint_ptr Point_%2_2;\n", number);
+        text += Line("%1kvMathUtility%2->CreatePoint(%3, %4, %5,&Point_%2_2);\n", number, points[1]);
         text += Line("%1bool Result; \n"
-                     "%1kvSelectionMgr%2"
-                     "->SelectByWindow(Point_%2"
-                     "_1, Point_%2"
-                     "_2, false,&Result);\n",
+                     "%1kvSelectionMgr%2->SelectByWindow(Point_%2_1, Point_%2_2, false,&Result);\n",
                      number);
         break;
     case Kind::CrossingWindow:
-        text += Line("%1kvMathPoint_ptr Point_%2"
-                     "_1;\n",
-                     number);
-        text += Line("%1kvMathUtility%2"
-                     "->CreatePoint(%3, %4, %5,&Point_%2"
-                     "_1 );\n",
-                     number, points[0]);
-        text += Line("%1kvMathPoint_ptr Point_%2"
-                     "_2;\n",
-                     number);
-        text += Line("%1kvMathUtility%2"
-                     "->CreatePoint(%3, %4, %5,&Point_%2"
-                     "_2);\n",
-                     number, points[1]);
+        text += Line("%1kvMathPoint_ptr Point_%2_1;\n", number);
+        text += Line("%1kvMathUtility%2->CreatePoint(%3, %4, %5,&Point_%2_1 );\n", number, points[0]);
+        text += Line("%1kvMathPoint_ptr Point_%2_2;\n", number);
+        text += Line("%1kvMathUtility%2->CreatePoint(%3, %4, %5,&Point_%2_2);\n", number, points[1]);
         text += Line("%1bool Result;\n"
-                     "%1kvSelectionMgr%2"
-                     "->SelectByWindow(Point_%2"
-                     "_1, Point_%2"
-                     "_2, true ,&Result);\n",
+                     "%1kvSelectionMgr%2->SelectByWindow(Point_%2_1, Point_%2_2, true ,&Result);\n",
                      number);
         break;
     case Kind::Polygon:
         text += SelectionPoints(number, points);
-        text += Line("%1bool Result; %1kvSelectionMgr%2"
-                     "->SelectByPolygon(doubleArray%2"
-                     ", true ,&Result);\n",
-                     number);
+        text += Line("%1bool Result; %1kvSelectionMgr%2->SelectByPolygon(doubleArray%2, true ,&Result);\n", number);
         break;
     case Kind::Fence:
         text += SelectionPoints(number, points);
         text += Line("%1bool Result; \n"
-                     "%1kvSelectionMgr%2"
-                     "->SelectByCrossline(doubleArray%2"
-                     ",&Result);\n",
+                     "%1kvSelectionMgr%2->SelectByCrossline(doubleArray%2,&Result);\n",
                      number);
         break;
     case Kind::None:
         break;
     }
-    text += Line("%1long iCount%2"
-                 "; \n"
-                 "%1kvSelectionMgr%2"
-                 "->GetSelectedObjectCount(kvSelectionSetType_Previous,&iCount%2"
-                 ");\n",
+    text += Line("%1long iCount%2; \n"
+                 "%1kvSelectionMgr%2->GetSelectedObjectCount(kvSelectionSetType_Previous,&iCount%2);\n",
                  number);
     return text;
 }
 
 QString CZtConverterKVAPICPP::SelectionPoints(int number, const std::vector<OdGePoint3d>& points)
 {
-    QString text = Line("%1kvDoubleArray doubleArray%2"
-                        ";\n",
-                        number);
+    QString text = Line("%1kvDoubleArray doubleArray%2;\n", number);
     for (const OdGePoint3d& point : points)
     {
         for (const double coordinate : {point.x, point.y, point.z})
         {
-            text += Line("%1doubleArray%2"
-                         ".add(%3);\n",
-                         number, General{coordinate});
+            text += Line("%1doubleArray%2.add(%3);\n", number, General{coordinate});
         }
     }
     return text;
@@ -184,33 +135,20 @@ QString CZtConverterKVAPICPP::WriteSetSelectionFilter(const SelectionMethod& met
     // The selection below refers to the manager by its own number, which agrees with the filter's only while both
     // were used equally often; the format's.
     const int number = CppCounters::OfProcess().WriteSetSelectionFilter++;
-    QString text = Line("%1kvSelectionManager_ptr kvSelectionMgr%2"
-                        ";\n"
-                        "%1kvDoc->GetSelectionManager(&kvSelectionMgr%2"
-                        ");\n",
+    QString text = Line("%1kvSelectionManager_ptr kvSelectionMgr%2;\n"
+                        "%1kvDoc->GetSelectionManager(&kvSelectionMgr%2);\n",
                         number);
-    text += Line("%1kvSelectionFilter_c* selectionFilter%2"
-                 ";\n"
-                 "%1kvSelectionMgr%2"
-                 "->GetSelectionFilter(&selectionFilter%2"
-                 ");\n",
+    text += Line("%1kvSelectionFilter_c* selectionFilter%2;\n"
+                 "%1kvSelectionMgr%2->GetSelectionFilter(&selectionFilter%2);\n",
                  number);
-    text += Line("%1selectionFilter%2"
-                 "->Clear();\n",
-                 number);
+    text += Line("%1selectionFilter%2->Clear();\n", number);
     for (const QString& typeName : typeNames)
     {
-        text += Line("%1selectionFilter%2"
-                     "->AddEntityType(%3);\n",
-                     number, typeName);
+        text += Line("%1selectionFilter%2->AddEntityType(%3);\n", number, typeName);
     }
     text += kv::LineEnd();
-    text += Line("%1selectionFilter%2"
-                 "->put_Active(true);\n",
-                 number);
+    text += Line("%1selectionFilter%2->put_Active(true);\n", number);
     text += WriteSelectByMethods(method, true);
-    text += Line("%1selectionFilter%2"
-                 "->put_Active(false);\n",
-                 number);
+    text += Line("%1selectionFilter%2->put_Active(false);\n", number);
     return text;
 }

@@ -9,35 +9,23 @@ QString CZtConverterKVAPICPP::WriteTrimEntities(const QStringList& cutting, cons
                                                 const OdArray<OdGePoint3d>& points, const TrimSearch& search)
 {
     const int number = CppCounters::OfProcess().WriteTrimEntities++;
-    QString text = Line("%1kvObjectPtrArray CuttingEntitiesArray%2"
-                        ";\n",
-                        number);
-    text += Line("%1kvObjectPtrArray EntitiesToRemoveArray%2"
-                 ";\n",
-                 number);
-    text += Line("%1kvDoubleArray  PointOnEntityDblArray%2"
-                 ";\n",
-                 number);
+    QString text = Line("%1kvObjectPtrArray CuttingEntitiesArray%2;\n", number);
+    text += Line("%1kvObjectPtrArray EntitiesToRemoveArray%2;\n", number);
+    text += Line("%1kvDoubleArray  PointOnEntityDblArray%2;\n", number);
     for (const QString& name : cutting)
     {
-        text += Line("%1CuttingEntitiesArray%2"
-                     ".add(%3);\n",
-                     number, name);
+        text += Line("%1CuttingEntitiesArray%2.add(%3);\n", number, name);
     }
     text += kv::LineEnd();
     for (const QString& name : removed)
     {
-        text += Line("%1EntitiesToRemoveArray%2"
-                     ".add(%3);\n",
-                     number, name);
+        text += Line("%1EntitiesToRemoveArray%2.add(%3);\n", number, name);
     }
     text += kv::LineEnd();
     text += PointsOnEntities(number, points);
     text += SetEdgeMode();
-    text += Line("%1kvSketchManager->TrimEntities(CuttingEntitiesArray%2"
-                 ", EntitiesToRemoveArray%2"
-                 ", PointOnEntityDblArray%2"
-                 ");\n",
+    text += Line("%1kvSketchManager->TrimEntities(CuttingEntitiesArray%2, EntitiesToRemoveArray%2"
+                 ", PointOnEntityDblArray%2);\n",
                  number);
     if (!search.IsEmpty())
     {
@@ -53,9 +41,7 @@ QString CZtConverterKVAPICPP::PointsOnEntities(int number, const OdArray<OdGePoi
     {
         for (const double coordinate : {point.x, point.y, point.z})
         {
-            text += Line("%1PointOnEntityDblArray%2"
-                         ".add(%3);\n",
-                         number, General{coordinate});
+            text += Line("%1PointOnEntityDblArray%2.add(%3);\n", number, General{coordinate});
         }
     }
     text += kv::LineEnd();
@@ -311,35 +297,23 @@ QString CZtConverterKVAPICPP::WriteExtendEntities(const QStringList& boundaries,
                                                   const OdArray<OdGePoint3d>& points)
 {
     const int number = CppCounters::OfProcess().WriteExtendEntities++;
-    QString text = Line("%1kvObjectPtrArray BoundaryEntitiesArray%2"
-                        ";\n",
-                        number);
-    text += Line("%1kvObjectPtrArray EntitiesToExtendArray%2"
-                 ";\n",
-                 number);
-    text += Line("%1kvDoubleArray  PointOnEntityDblArray%2"
-                 ";\n",
-                 number);
+    QString text = Line("%1kvObjectPtrArray BoundaryEntitiesArray%2;\n", number);
+    text += Line("%1kvObjectPtrArray EntitiesToExtendArray%2;\n", number);
+    text += Line("%1kvDoubleArray  PointOnEntityDblArray%2;\n", number);
     for (const QString& name : boundaries)
     {
-        text += Line("%1BoundaryEntitiesArray%2"
-                     ".add(%3);\n",
-                     number, name);
+        text += Line("%1BoundaryEntitiesArray%2.add(%3);\n", number, name);
     }
     text += kv::LineEnd();
     for (const QString& name : extended)
     {
-        text += Line("%1EntitiesToExtendArray%2"
-                     ".add(%3);\n",
-                     number, name);
+        text += Line("%1EntitiesToExtendArray%2.add(%3);\n", number, name);
     }
     text += kv::LineEnd();
     text += PointsOnEntities(number, points);
     text += SetEdgeMode();
-    text += Line("%1kvSketchManager->ExtendEntities(BoundaryEntitiesArray%2"
-                 ", EntitiesToExtendArray%2"
-                 ", PointOnEntityDblArray%2"
-                 ");\n",
+    text += Line("%1kvSketchManager->ExtendEntities(BoundaryEntitiesArray%2, EntitiesToExtendArray%2"
+                 ", PointOnEntityDblArray%2);\n",
                  number);
     return text;
 }

@@ -72,8 +72,7 @@ QString CZtConverterKVAPICSharp::WriteMoveEntities(const EntityArray& entities, 
         text += EntityElements("%1kvEntities%2[%3] = new DispatchWrapper(%4);\n", number, entities.names);
         text += kv::LineEnd();
     }
-    text += Line("%1kvApp.GetActiveDocument().GetModel().GetSketchManager()"
-                 ".MoveEntities(%2, %3, %4, kvEntities%5);\n",
+    text += Line("%1kvApp.GetActiveDocument().GetModel().GetSketchManager().MoveEntities(%2, %3, %4, kvEntities%5);\n",
                  displacement, number);
     return text;
 }
